@@ -1,0 +1,25 @@
+# Settings that the presets switch on; a plain configure gets none of them, so that a packager's
+# own flags decide.
+
+option(CLIPVANE_WARNINGS "Compile with the developers' warnings" OFF)
+option(CLIPVANE_HARDENED "Compile and link with the usual hardening" OFF)
+set(CLIPVANE_SANITIZERS "" CACHE STRING "Comma-separated sanitizers, handed to -fsanitize=")
+
+if(CLIPVANE_WARNINGS)
+    # A constructor's parameter may have its member's name, which GCC's plain -Wshadow refuses.
+    add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion
+                        -Wnon-virtual-dtor -Woverloaded-virtual
+                        $<IF:$<CXX_COMPILER_ID:GNU>,-Wshadow=local,-Wshadow>)
+endif()
+
+if(CLIPVANE_HARDENED)
+    add_compile_options(-fstack-protector-strong -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2
+                        -D_GLIBCXX_ASSERTIONS)
+    add_link_options(-Wl,-z,relro,-z,now)
+endif()
+
+if(CLIPVANE_SANITIZERS)
+    add_compile_options(-fsanitize=${CLIPVANE_SANITIZERS} -fno-sanitize-recover=all
+                        -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=${CLIPVANE_SANITIZERS})
+endif()

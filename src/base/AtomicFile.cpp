@@ -1,0 +1,160 @@
+#include "base/AtomicFile.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+
+#include "base/UUID.h"
+
+namespace clipvane {
+namespace {
+
+constexpr std::size_t largestWrite = 0x7ffff000;  // what the kernel moves in one call
+constexpr int mostLinks = 40;                     // the kernel's own limit in following links
+constexpr mode_t newFileMode = 0666;              // less the process's file mode mask
+constexpr mode_t permissionBits = 07777;
+
+/// The place that `path` leads to through its links; a dangling link leads to a place without a
+/// file. Zero or an errno value.
+int followLinks(std::filesystem::path& path) {
+    for (int followed = 0; followed <= mostLinks; ++followed) {
+        struct stat status {};
+        if (::lstat(path.c_str(), &status) != 0) return errno == ENOENT ? 0 : errno;
+        if (!S_ISLNK(status.st_mode)) return 0;
+        std::error_code error;
+        const std::filesystem::path target = std::filesystem::read_symlink(path, error);
+        if (error) return error.value();
+        path = path.parent_path() / target;  // an absolute target replaces the folder
+    }
+    return ELOOP;
+}
+
+std::string procLink(int descriptor) {
+    return "/proc/self/fd/" + std::to_string(descriptor);
+}
+
+}  // namespace
+
+AtomicFile::AtomicFile(std::filesystem::path destination, std::optional<mode_t> replacedMode)
+    : destination(std::move(destination)), replacedMode(replacedMode) {}
+
+AtomicFile::AtomicFile(AtomicFile&& other) noexcept
+    : destination(std::move(other.destination)),
+      replacedMode(other.replacedMode),
+      file(std::move(other.file)),
+      temporary(std::move(other.temporary)) {
+    other.temporary.clear();
+}
+
+AtomicFile::~AtomicFile() {
+    if (!temporary.empty()) ::unlink(temporary.c_str());
+}
+
+tl::unexpected<Error> AtomicFile::failed(int code) const {
+    return tl::unexpected(fileError("written", destination, code));
+}
+
+Result<AtomicFile> AtomicFile::create(const std::filesystem::path& destination) {
+    const auto failed = [&](int code) {
+        return tl::unexpected(fileError("written", destination, code));
+    };
+    std::filesystem::path place = destination;
+    if (const int code = followLinks(place)) return failed(code);
+
+    std::optional<mode_t> replacedMode;
+    struct stat status {};
+    if (::stat(place.c_str(), &status) == 0) {
+        if (S_ISDIR(status.st_mode)) return failed(EISDIR);
+        if (!S_ISREG(status.st_mode)) {
+            return tl::unexpected(Error{"POSIX", EINVAL,
+                                        "The file \"" + displayName(destination) +
+                                            "\" could not be written: Not a regular file."});
+        }
+        replacedMode = status.st_mode & permissionBits;
+    } else if (errno != ENOENT) {
+        return failed(errno);
+    }
+
+    AtomicFile file(std::move(place), replacedMode);
+    if (const int code = file.open()) return failed(code);
+    return file;
+}
+
+/// Opens a file without a name, which vanishes by itself if the process is killed, or a hidden one
+/// beside the destination where the system cannot do the first. Zero or an errno value.
+int AtomicFile::open() {
+    std::filesystem::path folder = destination.parent_path();
+    if (folder.empty()) folder = ".";
+    file = openFile(folder.c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, newFileMode);
+    // Giving it a name later needs /proc.
+    if (file.isOpen() && ::access(procLink(file.number()).c_str(), F_OK) == 0) return 0;
+
+    UUIDGenerator generator;
+    temporary = folder / (".clipvane-" + generator.next().text());
+    file = openFile(temporary.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, newFileMode);
+    if (file.isOpen()) return 0;
+    temporary.clear();
+    return errno;
+}
+
+Result<void> AtomicFile::write(std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t put =
+            ::write(file.number(), bytes.data(), std::min(bytes.size(), largestWrite));
+        if (put < 0 && errno == EINTR) continue;
+        if (put < 0) return failed(errno);
+        bytes.remove_prefix(static_cast<std::size_t>(put));
+    }
+    return {};
+}
+
+Result<void> AtomicFile::commit() {
+    // Some file systems have no permissions to set; the export does not fail for that.
+    if (replacedMode) static_cast<void>(::fchmod(file.number(), *replacedMode));
+
+    while (::fsync(file.number()) != 0) {
+        if (errno != EINTR) return failed(errno);
+    }
+    if (temporary.empty() && !replacedMode) {
+        const int code = linkAt(destination);
+        if (code == 0) return {};
+        if (code != EEXIST) return failed(code);  // EEXIST: somebody else was faster; replace it
+    }
+    if (temporary.empty()) {
+        if (const int code = linkTemporary()) return failed(code);
+    }
+    if (const int code = file.close()) return failed(code);
+    if (::rename(temporary.c_str(), destination.c_str()) != 0) return failed(errno);
+    temporary.clear();
+    return {};
+}
+
+int AtomicFile::linkAt(const std::filesystem::path& name) {
+    const std::string content = procLink(file.number());
+    return ::linkat(AT_FDCWD, content.c_str(), AT_FDCWD, name.c_str(), AT_SYMLINK_FOLLOW) == 0
+               ? 0
+               : errno;
+}
+
+/// A file without a name cannot replace another one; it needs a name for the moment before.
+int AtomicFile::linkTemporary() {
+    UUIDGenerator generator;
+    const std::filesystem::path name =
+        destination.parent_path() / (".clipvane-" + generator.next().text());
+    if (const int code = linkAt(name)) return code;
+    temporary = name;
+    return 0;
+}
+
+Result<void> writeFileAtomically(const std::filesystem::path& destination, std::string_view text) {
+    auto file = AtomicFile::create(destination);
+    if (!file) return tl::unexpected(std::move(file.error()));
+    if (auto written = file->write(text); !written) return written;
+    return file->commit();
+}
+
+}  // namespace clipvane

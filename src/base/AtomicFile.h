@@ -1,0 +1,57 @@
+#pragma once
+
+#include <sys/types.h>
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "base/Descriptor.h"
+#include "base/Error.h"
+
+namespace clipvane {
+
+/// Writes a file so that its place holds the old content or the new one, whole, and never anything
+/// between.
+///
+/// Links to the destination are followed, and only a regular file is ever replaced; it keeps its
+/// permissions, where the file system has them. The content is on the disk before it takes its
+/// place. Until `commit` succeeds nothing is visible at the destination, and what was written is
+/// gone with this object.
+///
+///     auto file = AtomicFile::create(path);
+///     if (!file) return tl::unexpected(file.error());
+///     if (auto written = file->write(text); !written) return written;
+///     return file->commit();
+class AtomicFile {
+  public:
+    static Result<AtomicFile> create(const std::filesystem::path& destination);
+
+    AtomicFile(AtomicFile&& other) noexcept;
+    AtomicFile& operator=(AtomicFile&&) = delete;
+    ~AtomicFile();
+
+    Result<void> write(std::string_view bytes);
+
+    /// Puts the content in its place. Afterwards only the destructor may be called.
+    Result<void> commit();
+
+  private:
+    AtomicFile(std::filesystem::path destination, std::optional<mode_t> replacedMode);
+
+    int open();
+    int linkAt(const std::filesystem::path& name);
+    int linkTemporary();
+    tl::unexpected<Error> failed(int code) const;
+
+    std::filesystem::path destination;   ///< links resolved
+    std::optional<mode_t> replacedMode;  ///< permissions of the file to replace, if there is one
+    Descriptor file;
+    std::filesystem::path temporary;  ///< the content's present name; empty while it has none
+};
+
+/// Writes `text` as the whole content of the file at `destination`, as `AtomicFile` does.
+Result<void> writeFileAtomically(const std::filesystem::path& destination, std::string_view text);
+
+}  // namespace clipvane

@@ -1,0 +1,43 @@
+#include "base/Characters.h"
+
+#include <unicode/uchar.h>
+
+#include "base/UTF8.h"
+
+namespace clipvane {
+namespace {
+
+template <class Predicate>
+std::string_view trim(std::string_view text, Predicate isTrimmed) {
+    while (!text.empty()) {
+        const CodePoint first = firstCodePoint(text);
+        if (!isTrimmed(first.value)) break;
+        text.remove_prefix(first.length);
+    }
+    while (!text.empty()) {
+        const CodePoint last = lastCodePoint(text);
+        if (!isTrimmed(last.value)) break;
+        text.remove_suffix(last.length);
+    }
+    return text;
+}
+
+}  // namespace
+
+bool isWhiteSpaceBeyondASCII(char32_t c) {
+    return u_isUWhiteSpace(static_cast<UChar32>(c)) != 0;
+}
+
+bool isDecimalDigitBeyondASCII(char32_t c) {
+    return u_isdigit(static_cast<UChar32>(c)) != 0;
+}
+
+std::string_view trimBlanks(std::string_view text) {
+    return trim(text, isBlank);
+}
+
+std::string_view trimBlanksAndNewlines(std::string_view text) {
+    return trim(text, [](char32_t c) { return isBlank(c) || isNewline(c); });
+}
+
+}  // namespace clipvane

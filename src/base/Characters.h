@@ -1,0 +1,48 @@
+#pragma once
+
+#include <string_view>
+
+namespace clipvane {
+
+// Classes of code points. The ASCII members decide nearly every call, so they stand inline.
+
+/// Unicode's White_Space property, which a regular expression calls \s.
+bool isWhiteSpaceBeyondASCII(char32_t c);
+constexpr bool isASCIIWhiteSpace(char32_t c) {
+    return c == U' ' || (c >= U'\t' && c <= U'\r');
+}
+inline bool isWhiteSpace(char32_t c) {
+    return c < 0x80 ? isASCIIWhiteSpace(c) : isWhiteSpaceBeyondASCII(c);
+}
+
+/// Unicode's general category Nd, which a regular expression calls \d.
+bool isDecimalDigitBeyondASCII(char32_t c);
+constexpr bool isASCIIDigit(char32_t c) {
+    return c >= U'0' && c <= U'9';
+}
+inline bool isDecimalDigit(char32_t c) {
+    return c < 0x80 ? isASCIIDigit(c) : isDecimalDigitBeyondASCII(c);
+}
+
+/// The characters that end a line: U+000A to U+000D, U+0085, U+2028 and U+2029.
+constexpr bool isNewline(char32_t c) {
+    return (c >= 0x0A && c <= 0x0D) || c == 0x85 || c == 0x2028 || c == 0x2029;
+}
+
+/// White space that does not end a line: TAB and the general category Zs (space separators).
+constexpr bool isBlank(char32_t c) {
+    return c == U'\t' || c == U' ' || c == 0xA0 || c == 0x1680 || (c >= 0x2000 && c <= 0x200A) ||
+           c == 0x202F || c == 0x205F || c == 0x3000;
+}
+
+constexpr char asciiLower(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+/// `text` without the blanks at both ends.
+std::string_view trimBlanks(std::string_view text);
+
+/// `text` without the blanks and newlines at both ends.
+std::string_view trimBlanksAndNewlines(std::string_view text);
+
+}  // namespace clipvane

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <utility>
+
+namespace clipvane {
+
+/// Owns an open file descriptor and closes it at the end of its life.
+class Descriptor {
+  public:
+    Descriptor() = default;
+    explicit Descriptor(int number) : descriptor(number) {}
+    Descriptor(Descriptor&& other) noexcept : descriptor(std::exchange(other.descriptor, -1)) {}
+    Descriptor& operator=(Descriptor&& other) noexcept {
+        std::swap(descriptor, other.descriptor);
+        return *this;
+    }
+    ~Descriptor() {
+        if (isOpen()) ::close(descriptor);
+    }
+
+    bool isOpen() const { return descriptor >= 0; }
+    int number() const { return descriptor; }
+
+    /// Closes now, and tells the errno value that closing gave, or zero.
+    int close() {
+        // The descriptor is gone even when the call was interrupted.
+        const int result = ::close(std::exchange(descriptor, -1));
+        return result == 0 || errno == EINTR ? 0 : errno;
+    }
+
+  private:
+    int descriptor = -1;
+};
+
+/// Opens as open(2) does, again when a signal interrupted it. Not open, with errno set, on failure.
+inline Descriptor openFile(const char* path, int flags, mode_t mode = 0) {
+    int number = -1;
+    do {
+        number = ::open(path, flags, mode);
+    } while (number < 0 && errno == EINTR);
+    return Descriptor(number);
+}
+
+}  // namespace clipvane

@@ -1,0 +1,87 @@
+#include "base/File.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <new>
+
+#include "base/Descriptor.h"
+#include "base/HugePages.h"
+
+namespace clipvane {
+namespace {
+
+/// The kernel moves at most this much in one call.
+constexpr std::size_t largestRead = 0x7ffff000;
+
+/// Bytes read so far, in storage that is not cleared first: it is all about to be written.
+class GrowingBytes {
+  public:
+    explicit GrowingBytes(std::size_t capacity)
+        : storage(std::make_unique_for_overwrite<char[]>(capacity)), capacity(capacity) {
+        adviseHugePages(storage.get(), capacity);
+    }
+
+    char* free() const { return storage.get() + used; }
+    std::size_t freeCount() const { return capacity - used; }
+    void use(std::size_t count) { used += count; }
+
+    void grow() {
+        GrowingBytes larger(std::max<std::size_t>(capacity * 2, 65536));
+        std::memcpy(larger.storage.get(), storage.get(), used);
+        larger.used = used;
+        *this = std::move(larger);
+    }
+
+    FileBytes take() { return {std::move(storage), used}; }
+
+  private:
+    std::unique_ptr<char[]> storage;
+    std::size_t capacity;
+    std::size_t used = 0;
+};
+
+/// Zero, or the errno value of what failed.
+int readToEnd(int descriptor, GrowingBytes& bytes) {
+    while (true) {
+        if (bytes.freeCount() == 0) bytes.grow();
+        const ssize_t got =
+            ::read(descriptor, bytes.free(), std::min(bytes.freeCount(), largestRead));
+        if (got < 0 && errno == EINTR) continue;
+        if (got < 0) return errno;
+        if (got == 0) return 0;
+        bytes.use(static_cast<std::size_t>(got));
+    }
+}
+
+}  // namespace
+
+Result<FileBytes> readFile(const std::filesystem::path& path) try {
+    const auto failed = [&](int code) { return tl::unexpected(fileError("read", path, code)); };
+
+    // Without O_NONBLOCK, opening a FIFO would wait for somebody to write into it.
+    const Descriptor file = openFile(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    if (!file.isOpen()) return failed(errno);
+
+    struct stat status {};
+    if (::fstat(file.number(), &status) != 0) return failed(errno);
+    if (S_ISDIR(status.st_mode)) return failed(EISDIR);
+    if (!S_ISREG(status.st_mode)) {
+        return tl::unexpected(
+            Error{"POSIX", EINVAL,
+                  "The file \"" + displayName(path) + "\" could not be read: Not a regular file."});
+    }
+
+    // One byte more than the size lets the last read report the end instead of growing first.
+    GrowingBytes bytes(static_cast<std::size_t>(status.st_size) + 1);
+    if (const int code = readToEnd(file.number(), bytes)) return failed(code);
+    return bytes.take();
+} catch (const std::bad_alloc&) {
+    return tl::unexpected(fileError("read", path, ENOMEM));
+}
+
+}  // namespace clipvane

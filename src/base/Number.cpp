@@ -1,0 +1,138 @@
+#include "base/Number.h"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+#include "base/Characters.h"
+#include "base/Fatal.h"
+
+namespace clipvane {
+namespace {
+
+bool equalsIgnoringCase(std::string_view text, std::string_view lowerCase) {
+    return std::equal(text.begin(), text.end(), lowerCase.begin(), lowerCase.end(),
+                      [](char a, char b) { return asciiLower(a) == b; });
+}
+
+/// Whether an unsigned literal that `from_chars` called out of range is too large rather than too
+/// small: whether its first non-zero digit, moved by the exponent, stands left of the point.
+bool isTooLarge(std::string_view literal, bool hexadecimal) {
+    const char exponentMark = hexadecimal ? 'p' : 'e';
+    const auto isMark = [&](char c) { return asciiLower(c) == exponentMark; };
+    const auto markAt = std::find_if(literal.begin(), literal.end(), isMark);
+    const std::string_view mantissa(literal.begin(), markAt);
+
+    const std::size_t pointAt = std::min(mantissa.find('.'), mantissa.size());
+    const std::size_t leadAt = mantissa.find_first_not_of("0.");
+    if (leadAt == std::string_view::npos) return false;
+    const double places = static_cast<double>(pointAt) - static_cast<double>(leadAt);
+
+    double exponent = 0;
+    if (markAt != literal.end()) {
+        std::string_view digits(markAt + 1, literal.end());
+        const bool negative = digits.starts_with('-');
+        if (negative || digits.starts_with('+')) digits.remove_prefix(1);
+        for (const char c : digits) exponent = exponent * 10 + (c - '0');
+        if (negative) exponent = -exponent;
+    }
+    return places * (hexadecimal ? 4 : 1) + exponent > 0;
+}
+
+std::optional<double> parseUnsigned(std::string_view text) {
+    if (equalsIgnoringCase(text, "inf") || equalsIgnoringCase(text, "infinity")) {
+        return std::numeric_limits<double>::infinity();
+    }
+    if (equalsIgnoringCase(text, "nan")) return std::numeric_limits<double>::quiet_NaN();
+
+    const bool hexadecimal = text.size() > 2 && text[0] == '0' && asciiLower(text[1]) == 'x';
+    if (hexadecimal) text.remove_prefix(2);
+    // from_chars would also take "nan(...)" and a sign of its own.
+    if (text.empty() || !(text[0] == '.' || isASCIIDigit(static_cast<unsigned char>(text[0])) ||
+                          (hexadecimal && std::isxdigit(static_cast<unsigned char>(text[0]))))) {
+        return std::nullopt;
+    }
+    double value = 0;
+    const auto [end, error] =
+        std::from_chars(text.data(), text.data() + text.size(), value,
+                        hexadecimal ? std::chars_format::hex : std::chars_format::general);
+    if (end != text.data() + text.size()) return std::nullopt;
+    if (error == std::errc::result_out_of_range) {
+        return isTooLarge(text, hexadecimal) ? std::numeric_limits<double>::infinity() : 0.0;
+    }
+    if (error != std::errc()) return std::nullopt;
+    return value;
+}
+
+}  // namespace
+
+std::optional<double> parseNumber(std::string_view text) {
+    const bool negative = text.starts_with('-');
+    if (negative || text.starts_with('+')) text.remove_prefix(1);
+    const auto value = parseUnsigned(text);
+    if (value && negative) return -*value;
+    return value;
+}
+
+std::optional<std::int64_t> parseInteger(std::string_view text) {
+    if (text.starts_with('+')) {
+        text.remove_prefix(1);
+        if (text.starts_with('-')) return std::nullopt;
+    }
+    std::int64_t value = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
+    return value;
+}
+
+std::int64_t addChecked(std::int64_t a, std::int64_t b) {
+    std::int64_t sum = 0;
+    if (__builtin_add_overflow(a, b, &sum)) fatal("a frame count exceeds 64 bits (addition)");
+    return sum;
+}
+
+std::int64_t subtractChecked(std::int64_t a, std::int64_t b) {
+    std::int64_t difference = 0;
+    if (__builtin_sub_overflow(a, b, &difference)) {
+        fatal("a frame count exceeds 64 bits (subtraction)");
+    }
+    return difference;
+}
+
+std::int64_t multiplyChecked(std::int64_t a, std::int64_t b) {
+    std::int64_t product = 0;
+    if (__builtin_mul_overflow(a, b, &product)) {
+        fatal("a frame count exceeds 64 bits (multiplication)");
+    }
+    return product;
+}
+
+std::int64_t roundToInteger(double value) {
+    const double rounded = std::round(value);
+    // 2^63 is the first double above the range; its negative is the range's lower end.
+    constexpr double limit = 9223372036854775808.0;
+    if (!(rounded >= -limit && rounded < limit)) {
+        fatal("a number cannot be rounded to a 64-bit integer");
+    }
+    return static_cast<std::int64_t>(rounded);
+}
+
+void appendInteger(std::string& text, std::int64_t value) {
+    appendPadded(text, value, 1);
+}
+
+void appendPadded(std::string& text, std::int64_t value, int width) {
+    std::array<char, 20> digits;  // 19 digits and a sign
+    const auto [end, error] = std::to_chars(digits.data(), digits.data() + digits.size(), value);
+    const std::string_view written(digits.data(), static_cast<std::size_t>(end - digits.data()));
+    const auto wanted = static_cast<std::size_t>(width);
+    const bool negative = value < 0;
+    if (negative) text += '-';
+    if (written.size() < wanted) text.append(wanted - written.size(), '0');
+    text += written.substr(negative ? 1 : 0);
+}
+
+}  // namespace clipvane

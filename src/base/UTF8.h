@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace clipvane {
+
+/// One code point and the number of bytes it was read from.
+struct CodePoint {
+    char32_t value = 0;
+    std::size_t length = 0;
+};
+
+/// The first code point of `text`, which must not be empty. An ill-formed sequence is read as
+/// U+FFFD over its maximal subpart, as Unicode recommends.
+CodePoint firstCodePoint(std::string_view text);
+
+/// The last code point of `text`, which must not be empty, by the same rule.
+CodePoint lastCodePoint(std::string_view text);
+
+void appendUTF8(std::string& text, char32_t codePoint);
+
+/// True when `text` holds bytes below 0x80 only.
+bool isASCII(std::string_view text);
+
+/// The number of bytes before the first ill-formed sequence: all of them for valid UTF-8.
+std::size_t validUTF8Prefix(std::string_view bytes);
+
+/// A copy of `bytes` with one U+FFFD for each maximal subpart of an ill-formed sequence. A
+/// byte-order mark and NULs stay.
+std::string replaceInvalidUTF8(std::string_view bytes);
+
+}  // namespace clipvane

@@ -1,0 +1,83 @@
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "base/Error.h"
+#include "commands/Alert.h"
+#include "model/TimelineDocument.h"
+
+namespace clipvane {
+
+/// What the buttons do, step by step, without a toolkit. The window inherits this and lends it the
+/// few toolkit operations that the steps need.
+///
+/// Rows are indexes into the document's events. Texts are UTF-8.
+class DocumentCommands {
+  public:
+    DocumentCommands() = default;
+    DocumentCommands(const DocumentCommands&) = delete;
+    DocumentCommands& operator=(const DocumentCommands&) = delete;
+    virtual ~DocumentCommands() = default;
+
+    void openTimeline();
+    void fpsChanged();
+    void removeSelectedEvent();
+    void copySelectedInfo();
+    void exportCSV();
+    void exportEDL();
+
+    /// Stores the comments field into the selected event. A text that the user has not touched
+    /// since it was shown is left alone: the field may show it less exactly than it is stored.
+    void saveCurrentComment();
+
+    /// The comments field's text has changed under the user's hands.
+    void textDidChange();
+
+    const TimelineDocument& document() const { return documentModel; }
+
+  protected:
+    TimelineDocument documentModel;
+
+  private:
+    using Writer = std::function<Result<void>(const std::filesystem::path& url)>;
+
+    void saveFile(const std::string& defaultName, const Writer& writer);
+
+    // The toolkit's part.
+
+    /// The file that the user chose to open, or nothing when the panel was cancelled.
+    virtual std::optional<std::filesystem::path> runOpenPanel() = 0;
+    /// The place that the user chose to save to, its name preset to `defaultName`.
+    virtual std::optional<std::filesystem::path> runSavePanel(const std::string& defaultName) = 0;
+    /// Shows the alert and waits until it is dismissed.
+    virtual void runAlert(const Alert& alert) = 0;
+
+    /// The selected row, or nothing. Beyond the events only by mistake.
+    virtual std::optional<std::size_t> selectedRow() const = 0;
+    /// Selects `row` alone, and refreshes the details even when it was selected before.
+    virtual void selectRow(std::size_t row) = 0;
+    virtual void reloadTable() = 0;
+    virtual void setEmptyLabelHidden(bool hidden) = 0;
+    virtual void setStatus(const std::string& text) = 0;
+    virtual void refreshDetails() = 0;
+
+    /// The comments field's text, or nothing when the user has not changed it since it was set.
+    /// Line ends are line feeds.
+    virtual std::optional<std::string> editedComments() const = 0;
+    /// The title of the chosen frame-rate entry, such as "25 fps", or nothing.
+    virtual std::optional<std::string> selectedFPSTitle() const = 0;
+    /// Makes the pop-up show the document's rate.
+    virtual void syncFPSPopup() = 0;
+    virtual void setPasteboardText(const std::string& text) = 0;
+    virtual void writeLog(const std::string& message) = 0;
+
+    /// Runs `work`, which reads, converts or writes a whole timeline, under a wait cursor.
+    virtual void whileBusy(const std::function<void()>& work) = 0;
+};
+
+}  // namespace clipvane

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "model/FrameRateSource.h"
+#include "model/TimelineEvent.h"
+
+namespace clipvane {
+
+/// The open timeline. There is one for the program's life; opening a file refills it in place, so
+/// it cannot be copied.
+struct TimelineDocument {
+    TimelineDocument() = default;
+    TimelineDocument(const TimelineDocument&) = delete;
+    TimelineDocument& operator=(const TimelineDocument&) = delete;
+
+    std::optional<std::filesystem::path> sourceURL;  ///< the file last opened
+    std::vector<TimelineEvent> events;               ///< those that remain for export
+    std::vector<TimelineEvent> removedEvents;        ///< in the order of their removal
+    double fps = defaultFPS;                         ///< frames per second of `events`
+    std::string fpsSource{fpsSourceDefault};         ///< where `fps` came from
+};
+
+}  // namespace clipvane

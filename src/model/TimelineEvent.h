@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+
+#include "base/UUID.h"
+
+namespace clipvane {
+
+/// One event of a timeline: one clip line. A plain value; a copy shares nothing with its original.
+///
+/// Texts are UTF-8. Timecodes stay text as read or as last converted (HH:MM:SS:FF, two digits a
+/// field), and event numbers too, so that leading zeros survive. What is unknown is empty.
+struct TimelineEvent {
+    UUID id;  ///< drawn when a reader creates the event
+    std::string eventNumber;
+    std::string clipName;
+    std::string reelID;     ///< reel or source name
+    std::string sourceIn;   ///< first frame used from the source
+    std::string sourceOut;  ///< end of the source range
+    std::string recordIn;   ///< start on the timeline
+    std::string recordOut;  ///< end on the timeline
+    std::string format;     ///< kind of file the event came from: "EDL" or "XML"
+    std::string track;      ///< track designation, such as V, A or A2
+    std::string comments;   ///< the user's comment
+    bool highlighted = false;
+    std::string rawText;  ///< the source text that the event was built from
+};
+
+/// All fields equal, compared in their order. Texts are equal when they are canonically equivalent:
+/// "é" is the same text as "e" followed by a combining acute accent.
+bool operator==(const TimelineEvent& a, const TimelineEvent& b);
+
+}  // namespace clipvane

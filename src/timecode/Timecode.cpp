@@ -1,0 +1,131 @@
+#include "timecode/Timecode.h"
+
+#include <algorithm>
+#include <array>
+
+#include "base/Characters.h"
+#include "base/Number.h"
+#include "timecode/FrameRate.h"
+
+namespace clipvane {
+namespace {
+
+constexpr char dropFrameSeparator = ';';
+
+/// Hours, minutes, seconds and frames.
+using Fields = std::array<std::int64_t, 4>;
+
+constexpr bool isSeparator(char c) {
+    return c == ':' || c == dropFrameSeparator;
+}
+
+/// The fields of a timecode as nearly every file writes it: eleven characters, two digits a field.
+std::optional<Fields> usualFields(std::string_view text) {
+    if (text.size() != 11) return std::nullopt;
+    Fields fields{};
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        const std::size_t at = i * 3;
+        const auto tens = static_cast<unsigned>(text[at] - '0');
+        const auto ones = static_cast<unsigned>(text[at + 1] - '0');
+        if (tens > 9 || ones > 9) return std::nullopt;
+        if (i > 0 && !isSeparator(text[at - 1])) return std::nullopt;
+        fields[i] = tens * 10 + ones;
+    }
+    return fields;
+}
+
+std::optional<Fields> lenientFields(std::string_view text) {
+    Fields fields{};
+    std::size_t count = 0;
+    while (!text.empty()) {
+        const auto end = static_cast<std::size_t>(
+            std::find_if(text.begin(), text.end(), isSeparator) - text.begin());
+        if (const auto number = parseInteger(text.substr(0, end))) {
+            if (count == fields.size()) return std::nullopt;
+            fields[count++] = *number;
+        }
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    if (count != fields.size()) return std::nullopt;
+    return fields;
+}
+
+std::optional<Fields> parseFields(std::string_view text) {
+    const auto fields = usualFields(text);
+    return fields ? fields : lenientFields(text);
+}
+
+std::int64_t countFrames(const Fields& fields, std::int64_t base) {
+    const auto [hours, minutes, seconds, frames] = fields;
+    const std::int64_t totalMinutes = addChecked(multiplyChecked(hours, 60), minutes);
+    const std::int64_t totalSeconds = addChecked(multiplyChecked(totalMinutes, 60), seconds);
+    return addChecked(multiplyChecked(totalSeconds, base), frames);
+}
+
+void appendTimecode(std::string& text, std::int64_t count, std::int64_t base, char separator) {
+    const std::int64_t totalSeconds = count / base;
+    appendPadded(text, totalSeconds / 3600, 2);
+    text += ':';
+    appendPadded(text, totalSeconds / 60 % 60, 2);
+    text += ':';
+    appendPadded(text, totalSeconds % 60, 2);
+    text += separator;
+    appendPadded(text, count % base, 2);
+}
+
+}  // namespace
+
+std::optional<std::int64_t> frames(std::string_view from, double fps) {
+    const auto fields = parseFields(from);
+    if (!fields) return std::nullopt;
+    return countFrames(*fields, frameBase(fps));
+}
+
+std::string timecode(std::int64_t fromFrames, double fps, bool usesDropFrameSeparator) {
+    std::string text;
+    appendTimecode(text, fromFrames, frameBase(fps),
+                   usesDropFrameSeparator ? dropFrameSeparator : ':');
+    return text;
+}
+
+bool convertTimecodeInPlace(std::string& timecode, double from, double to) {
+    const auto fields = parseFields(timecode);
+    if (!fields) return false;
+    const std::int64_t fromBase = frameBase(from);
+    const std::int64_t toBase = frameBase(to);
+    const std::int64_t count = countFrames(*fields, fromBase);
+    const std::int64_t converted = roundToInteger(
+        static_cast<double>(count) / static_cast<double>(fromBase) * static_cast<double>(toBase));
+    const bool dropFrame = timecode.find(dropFrameSeparator) != std::string::npos;
+    timecode.clear();
+    appendTimecode(timecode, converted, toBase, dropFrame ? dropFrameSeparator : ':');
+    return true;
+}
+
+std::string convertTimecode(std::string_view timecode, double from, double to) {
+    std::string converted(timecode);
+    convertTimecodeInPlace(converted, from, to);
+    return converted;
+}
+
+void appendDuration(std::string& text, std::string_view from, std::string_view to, double fps) {
+    const auto start = frames(from, fps);
+    const auto end = start ? frames(to, fps) : std::nullopt;
+    if (!end) {
+        text += '-';
+        return;
+    }
+    const std::int64_t count = std::max<std::int64_t>(subtractChecked(*end, *start), 0);
+    appendTimecode(text, count, frameBase(fps), ':');
+    text += " (";
+    appendInteger(text, count);
+    text += " frames)";
+}
+
+std::string durationDisplay(std::string_view from, std::string_view to, double fps) {
+    std::string text;
+    appendDuration(text, from, to, fps);
+    return text;
+}
+
+}  // namespace clipvane

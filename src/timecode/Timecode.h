@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace clipvane {
+
+// Timecode arithmetic. All counting is non-drop-frame on the frame base of a rate (`frameBase`):
+// 29.97 counts 30 frames a second. The ";" of a drop-frame timecode is read and written, but never
+// changes a count. Frame rates are in frames per second. A count that leaves the signed 64-bit
+// range, and a rate whose base does, are fatal.
+
+/// The frame count of a timecode, or nothing when the text is not one. Lenient on purpose: ";"
+/// counts as ":", pieces between colons that are no integers are skipped, and no field is
+/// range-checked; exactly four integers must remain.
+std::optional<std::int64_t> frames(std::string_view from, double fps);
+
+/// HH:MM:SS:FF, or HH:MM:SS;FF; at least two digits a field, hours beyond 24 as they are. Every
+/// field of a negative count carries its own minus sign.
+std::string timecode(std::int64_t fromFrames, double fps, bool usesDropFrameSeparator);
+
+/// The timecode at another rate, with a ";" if it had one; a text that is not a timecode comes back
+/// unchanged. Rounds to the nearest frame, halves away from zero.
+std::string convertTimecode(std::string_view timecode, double from, double to);
+
+/// Converts `timecode` in place and tells whether it was one.
+bool convertTimecodeInPlace(std::string& timecode, double from, double to);
+
+/// The time between two timecodes, such as "00:00:10:00 (250 frames)"; never below zero. "-" when
+/// either is not a timecode.
+std::string durationDisplay(std::string_view from, std::string_view to, double fps);
+
+/// Appends what `durationDisplay` returns.
+void appendDuration(std::string& text, std::string_view from, std::string_view to, double fps);
+
+}  // namespace clipvane
