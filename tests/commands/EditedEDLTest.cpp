@@ -6,9 +6,11 @@
 #include <limits>
 
 #include "commands/SampleEvents.h"
+#include "support/Files.h"
+#include "support/RowName.h"
 #include "support/TemporaryFolder.h"
 
-namespace clipvane::test {
+namespace clipvane {
 namespace {
 
 constexpr std::string_view headerLines = "TITLE: Clipvane Export\nFCM: NON-DROP FRAME\n";
@@ -108,7 +110,7 @@ INSTANTIATE_TEST_SUITE_P(
                  "001  A001 V C        1:2:3;4 01:00:04:00 00:00:00:00 00:00:04:00\n" + sampleName},
         EventRow{"OwnNumber_IsNotUsed", changed([](auto& e) { e.eventNumber = "0815"; }),
                  sampleLine + sampleName}),
-    [](const auto& row) { return row.param.name; });
+    RowName());
 
 TEST(EditedEDL, SecondOfThreeRemoved_TheRestIsRenumbered) {
     TimelineDocument document;
@@ -148,8 +150,8 @@ TEST(WriteEDL, ManyChunks_FileHoldsTheWholeText) {
     const std::string text = edlText(document);
     EXPECT_GT(text.size(), 800'000U);
     EXPECT_TRUE(contentOf(folder / "cut.edl") == text);
-    EXPECT_EQ(folder.count(), 1);
+    EXPECT_EQ(folder.names().size(), 1U);
 }
 
 }  // namespace
-}  // namespace clipvane::test
+}  // namespace clipvane

@@ -8,10 +8,12 @@
 #include "commands/CSVReport.h"
 #include "commands/EditedEDL.h"
 #include "commands/SampleEvents.h"
+#include "support/Files.h"
+#include "support/RowName.h"
 #include "support/TemporaryFolder.h"
-#include "support/WithoutPrivileges.h"
+#include "support/UnprivilegedUser.h"
 
-namespace clipvane::test {
+namespace clipvane {
 namespace {
 
 using Write = Result<void> (*)(const TimelineDocument&, const std::filesystem::path&);
@@ -40,7 +42,7 @@ TEST_P(WriteFailure, MissingFolder) {
     EXPECT_EQ(errorOf(folder / "nowhere/out.txt"),
               (Error{"POSIX", ENOENT,
                      "The file \"out.txt\" could not be written: No such file or directory."}));
-    EXPECT_EQ(folder.count(), 0);
+    EXPECT_EQ(folder.names().size(), 0U);
 }
 
 TEST_P(WriteFailure, FolderInTheFilesPlace) {
@@ -48,11 +50,11 @@ TEST_P(WriteFailure, FolderInTheFilesPlace) {
     EXPECT_EQ(
         errorOf(folder / "out.txt"),
         (Error{"POSIX", EISDIR, "The file \"out.txt\" could not be written: Is a directory."}));
-    EXPECT_EQ(folder.count(), 1);
+    EXPECT_EQ(folder.names().size(), 1U);
 }
 
 TEST_P(WriteFailure, FileInTheFoldersPlace) {
-    writeContent(folder / "file", "");
+    putFile(folder / "file", "");
     EXPECT_EQ(
         errorOf(folder / "file/out.txt"),
         (Error{"POSIX", ENOTDIR, "The file \"out.txt\" could not be written: Not a directory."}));
@@ -68,11 +70,11 @@ TEST_P(WriteFailure, FIFOInTheFilesPlace_NoWaitingForAReader) {
 TEST_P(WriteFailure, ReadOnlyFolder_TheOldFileStays) {
     const auto locked = folder / "locked";
     std::filesystem::create_directory(locked);
-    writeContent(locked / "out.txt", "old");
+    putFile(locked / "out.txt", "old");
     std::filesystem::permissions(locked, std::filesystem::perms(0555));
     Error error;
     {
-        const WithoutPrivileges ordinaryUser;
+        const UnprivilegedUser ordinaryUser;
         error = errorOf(locked / "out.txt");
     }
     EXPECT_EQ(error, (Error{"POSIX", EACCES,
@@ -103,7 +105,7 @@ class FileSizeLimit {
 
 TEST_P(WriteFailure, TextBeyondTheFileSizeLimit_TheOldFileStays) {
     fillWithSamples(document, 10000);
-    writeContent(folder / "out.txt", "old");
+    putFile(folder / "out.txt", "old");
     Error error;
     {
         const FileSizeLimit limit(600'000);
@@ -112,12 +114,12 @@ TEST_P(WriteFailure, TextBeyondTheFileSizeLimit_TheOldFileStays) {
     EXPECT_EQ(error, (Error{"POSIX", EFBIG,
                             "The file \"out.txt\" could not be written: File too large."}));
     EXPECT_EQ(contentOf(folder / "out.txt"), "old");
-    EXPECT_EQ(folder.count(), 1);
+    EXPECT_EQ(folder.names().size(), 1U);
 }
 
 INSTANTIATE_TEST_SUITE_P(Writers, WriteFailure,
                          testing::Values(Writer{"CSV", writeCSV}, Writer{"EDL", writeEDL}),
-                         [](const auto& writer) { return writer.param.name; });
+                         RowName());
 
 }  // namespace
-}  // namespace clipvane::test
+}  // namespace clipvane

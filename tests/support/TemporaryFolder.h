@@ -1,52 +1,51 @@
 #pragma once
 
-#include <gtest/gtest.h>
 #include <stdlib.h>
+#include <sys/stat.h>
 
+#include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
+#include <stdexcept>
 #include <string>
 #include <string_view>
+#include <system_error>
+#include <vector>
 
-namespace clipvane::test {
+namespace clipvane {
 
-/// A folder of the test's own, gone with it. Everybody may enter it.
+/// A new, empty folder that everybody may enter; it goes away, with all that is in it, at the end
+/// of its life.
 class TemporaryFolder {
   public:
     TemporaryFolder() {
-        std::string name =
-            (std::filesystem::temp_directory_path() / "clipvane-test-XXXXXX").string();
-        if (::mkdtemp(name.data()) == nullptr) ADD_FAILURE() << "no temporary folder";
+        std::string name = std::filesystem::temp_directory_path() / "clipvane-test-XXXXXX";
+        if (::mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
         folder = name;
-        std::filesystem::permissions(folder, std::filesystem::perms(0755));
+        std::filesystem::permissions(folder, std::filesystem::perms{0777});
     }
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
     ~TemporaryFolder() {
         std::error_code ignored;
+        std::filesystem::permissions(folder, std::filesystem::perms{0777}, ignored);
         std::filesystem::remove_all(folder, ignored);
     }
 
-    std::filesystem::path operator/(std::string_view name) const { return folder / name; }
     const std::filesystem::path& path() const { return folder; }
+    std::filesystem::path operator/(std::string_view name) const { return folder / name; }
 
-    /// The number of entries, hidden ones included.
-    std::ptrdiff_t count() const {
-        return std::distance(std::filesystem::directory_iterator(folder), {});
+    /// The names of all that is in it, hidden ones too, sorted.
+    std::vector<std::string> names() const {
+        std::vector<std::string> names;
+        for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+            names.push_back(entry.path().filename());
+        }
+        std::sort(names.begin(), names.end());
+        return names;
     }
 
   private:
     std::filesystem::path folder;
 };
 
-inline std::string contentOf(const std::filesystem::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
-inline void writeContent(const std::filesystem::path& path, std::string_view content) {
-    std::ofstream(path, std::ios::binary) << content;
-}
-
-}  // namespace clipvane::test
+}  // namespace clipvane
