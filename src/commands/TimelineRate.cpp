@@ -1,0 +1,26 @@
+#include "commands/TimelineRate.h"
+
+#include <cmath>
+
+#include "timecode/Timecode.h"
+
+namespace clipvane {
+namespace {
+
+constexpr double sameRate = 0.0001;
+
+}  // namespace
+
+std::size_t convertTimecodes(std::vector<TimelineEvent>& events, double from, double to) {
+    if (!(std::abs(from - to) > sameRate)) return 0;
+    std::size_t count = 0;
+    for (TimelineEvent& event : events) {
+        for (std::string* timecode :
+             {&event.sourceIn, &event.sourceOut, &event.recordIn, &event.recordOut}) {
+            if (convertTimecodeInPlace(*timecode, from, to)) ++count;
+        }
+    }
+    return count;
+}
+
+}  // namespace clipvane
