@@ -1,0 +1,41 @@
+#include "ui/FilePanels.h"
+
+#include <QDir>
+#include <QFileDialog>
+
+#include "ui/Text.h"
+
+namespace clipvane {
+namespace {
+
+/// Extensions in any case, spelled out: not every kind of dialog ignores case by itself.
+constexpr const char* timelineFilter =
+    "Timelines (*.[eE][dD][lL] *.[tT][xX][tT] *.[xX][mM][lL] *.[fF][cC][pP][xX][mM][lL] "
+    "*.[xX][mM][eE][mM][lL])";
+
+std::optional<std::filesystem::path> run(QFileDialog& panel, QString& folder) {
+    panel.setDirectory(folder.isEmpty() ? QDir::homePath() : folder);
+    if (panel.exec() != QDialog::Accepted || panel.selectedFiles().isEmpty()) return std::nullopt;
+    folder = panel.directory().absolutePath();
+    return std::filesystem::path(QFile::encodeName(panel.selectedFiles().first()).toStdString());
+}
+
+}  // namespace
+
+std::optional<std::filesystem::path> FilePanels::runOpenPanel() {
+    QFileDialog panel(parent, "Open Timeline");
+    panel.setFileMode(QFileDialog::ExistingFile);
+    panel.setNameFilter(timelineFilter);
+    return run(panel, folder);
+}
+
+std::optional<std::filesystem::path> FilePanels::runSavePanel(const std::string& defaultName) {
+    QFileDialog panel(parent, "Export");
+    panel.setAcceptMode(QFileDialog::AcceptSave);
+    panel.setFileMode(QFileDialog::AnyFile);
+    panel.setDirectory(folder.isEmpty() ? QDir::homePath() : folder);
+    panel.selectFile(toQt(defaultName));
+    return run(panel, folder);
+}
+
+}  // namespace clipvane
