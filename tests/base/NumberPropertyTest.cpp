@@ -21,14 +21,22 @@ class Literals {
         std::string text;
         if (below(3) == 0) text += oneOf("+-");
         switch (below(8)) {
-            case 0: return text + hexadecimal(below(2) == 0 ? 1 : 30);
-            case 1: return text + hexadecimal(14);
-            case 2: return text + printed("%a");
-            case 3: return text + printed("%.17g");
-            case 4: return text + printed("%.40e");
-            case 5: return text + nearBorder();
-            case 6: return junk();
-            default: return text + decimal();
+            case 0:
+                return text + hexadecimal(below(2) == 0 ? 1 : 30);
+            case 1:
+                return text + hexadecimal(14);
+            case 2:
+                return text + printed("%a");
+            case 3:
+                return text + printed("%.17g");
+            case 4:
+                return text + printed("%.40e");
+            case 5:
+                return text + nearBorder();
+            case 6:
+                return junk();
+            default:
+                return text + decimal();
         }
     }
 
@@ -83,18 +91,28 @@ class Literals {
     /// About where doubles end, where subnormal ones begin, and where they end.
     std::string nearBorder() {
         static constexpr const char* borders[]{
-            "1.797693134862315",  "e308",  "1.79769313486231580793728971405", "e308",
-            "2.225073858507201",  "e-308", "2.47032822920623272088284396434", "e-324",
-            "4.940656458412465",  "e-324", "2.4703282292062327208828439643411", "e-324",
-            "17976931348623158",  "e292",  "0.00049406564584124654",           "e-320",
+            "1.797693134862315",
+            "e308",
+            "1.79769313486231580793728971405",
+            "e308",
+            "2.225073858507201",
+            "e-308",
+            "2.47032822920623272088284396434",
+            "e-324",
+            "4.940656458412465",
+            "e-324",
+            "2.4703282292062327208828439643411",
+            "e-324",
+            "17976931348623158",
+            "e292",
+            "0.00049406564584124654",
+            "e-320",
         };
         const unsigned at = 2 * below(8);
         return borders[at] + digits(20, "0123456789") + borders[at + 1];
     }
 
-    std::string junk() {
-        return digits(8, "0011.eEpPxX+-infatyINFATY9_,");
-    }
+    std::string junk() { return digits(8, "0011.eEpPxX+-infatyINFATY9_,"); }
 
     std::mt19937_64 engine{20240229};
 };

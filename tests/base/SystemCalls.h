@@ -18,7 +18,8 @@ enum class SystemCall {
     close,
 };
 
-/// For its life, or for the given number of calls, `call` fails with `error` without doing its work.
+/// For its life, or for the given number of calls, `call` fails with `error` without doing its
+/// work.
 class Refusal {
   public:
     static constexpr int always = -1;

@@ -15,9 +15,9 @@ class ThrowingFatal {
         std::string text;
     };
 
-    ThrowingFatal() : earlier(setFatalHandler(+[](std::string_view reason) {
-          throw Reason{std::string(reason)};
-      })) {}
+    ThrowingFatal()
+        : earlier(setFatalHandler(
+              +[](std::string_view reason) { throw Reason{std::string(reason)}; })) {}
     ThrowingFatal(const ThrowingFatal&) = delete;
     ThrowingFatal& operator=(const ThrowingFatal&) = delete;
     ~ThrowingFatal() { setFatalHandler(earlier); }
