@@ -10,7 +10,7 @@
 #include "base/UTF8.h"
 #include "support/RowName.h"
 
-namespace clipvane {
+namespace clipvane::test {
 namespace {
 
 template <class Predicate>
@@ -126,4 +126,4 @@ TEST(Trim, EveryBlankAndNewline_GoesFromBothEnds) {
 }
 
 }  // namespace
-}  // namespace clipvane
+}  // namespace clipvane::test

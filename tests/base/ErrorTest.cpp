@@ -7,7 +7,7 @@
 
 #include "support/RowName.h"
 
-namespace clipvane {
+namespace clipvane::test {
 namespace {
 
 TEST(FileError, NamesTheFileAndTheSystemsReason) {
@@ -54,4 +54,4 @@ const std::vector<NameRow> displayNames{
 INSTANTIATE_TEST_SUITE_P(Paths, DisplayName, testing::ValuesIn(displayNames), RowName());
 
 }  // namespace
-}  // namespace clipvane
+}  // namespace clipvane::test

@@ -6,7 +6,7 @@
 
 #include "support/ThrowingFatal.h"
 
-namespace clipvane {
+namespace clipvane::test {
 namespace {
 
 TEST(FatalDeathTest, WritesTheReasonAndAborts) {
@@ -46,4 +46,4 @@ TEST(SetFatalHandler, GivesTheEarlierHandler) {
 }
 
 }  // namespace
-}  // namespace clipvane
+}  // namespace clipvane::test

@@ -8,7 +8,7 @@
 #include "base/Number.h"
 #include "base/UUID.h"
 
-namespace clipvane {
+namespace clipvane::test {
 namespace {
 
 /// What the number routines say of texts and values that locales like to change.
@@ -42,4 +42,4 @@ TEST(Number, UnderEveryLocale_GivesTheSameBytes) {
 }
 
 }  // namespace
-}  // namespace clipvane
+}  // namespace clipvane::test

@@ -11,7 +11,7 @@
 
 #include "base/Number.h"
 
-namespace clipvane {
+namespace clipvane::test {
 namespace {
 
 /// Draws texts that are numbers, or nearly so.
@@ -170,4 +170,4 @@ TEST(ParseInteger, EveryWrittenInteger_IsReadBack) {
 }
 
 }  // namespace
-}  // namespace clipvane
+}  // namespace clipvane::test

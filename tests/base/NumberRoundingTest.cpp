@@ -8,7 +8,7 @@
 #include "base/Number.h"
 #include "support/RowName.h"
 
-namespace clipvane {
+namespace clipvane::test {
 namespace {
 
 constexpr std::int64_t largest = std::numeric_limits<std::int64_t>::max();
@@ -80,4 +80,4 @@ TEST(CheckedArithmeticDeathTest, BeyondTheRange_IsFatal) {
 }
 
 }  // namespace
-}  // namespace clipvane
+}  // namespace clipvane::test

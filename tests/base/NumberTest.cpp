@@ -9,7 +9,7 @@
 
 #include "support/RowName.h"
 
-namespace clipvane {
+namespace clipvane::test {
 namespace {
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
@@ -209,4 +209,4 @@ TEST(AppendInteger, AppendsDecimalDigits) {
 }
 
 }  // namespace
-}  // namespace clipvane
+}  // namespace clipvane::test

@@ -8,7 +8,7 @@
 #include <cstddef>
 #include <utility>
 
-namespace clipvane {
+namespace clipvane::test {
 namespace {
 
 struct Plan {
@@ -56,11 +56,11 @@ Interruption::~Interruption() {
     planOf(call) = {};
 }
 
-}  // namespace clipvane
+}  // namespace clipvane::test
 
 // The linker's --wrap sends every call of `name` here, and that of `__real_name` to the system.
-using clipvane::isRefused;
-using clipvane::SystemCall;
+using clipvane::test::isRefused;
+using clipvane::test::SystemCall;
 
 extern "C" {
 

@@ -2,7 +2,7 @@
 
 #include <functional>
 
-namespace clipvane {
+namespace clipvane::test {
 
 /// The system calls of the code under test that a test can make fail. Opening a file without a name
 /// (O_TMPFILE) counts apart from the other ways of opening.
@@ -48,4 +48,4 @@ class Interruption {
     SystemCall call;
 };
 
-}  // namespace clipvane
+}  // namespace clipvane::test

@@ -8,7 +8,7 @@
 
 #include "support/RowName.h"
 
-namespace clipvane {
+namespace clipvane::test {
 namespace {
 
 constexpr char32_t lastOfUnicode = 0x10FFFF;
@@ -157,4 +157,4 @@ TEST(LastCodePoint, GeneratedGarbage_IsReadBackwardsAsForwards) {
 }
 
 }  // namespace
-}  // namespace clipvane
+}  // namespace clipvane::test

@@ -5,7 +5,7 @@
 #include <set>
 #include <string>
 
-namespace clipvane {
+namespace clipvane::test {
 namespace {
 
 constexpr UUID sample{{0x01, 0x23, 0x45, 0x67, 0x89, 0xAB, 0xCD, 0xEF, 0xFE, 0xDC, 0xBA, 0x98, 0x76,
@@ -87,4 +87,4 @@ TEST(UUIDGenerator, EveryFreeBit_IsDrawnBothWays) {
 }
 
 }  // namespace
-}  // namespace clipvane
+}  // namespace clipvane::test

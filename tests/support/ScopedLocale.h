@@ -4,7 +4,7 @@
 #include <locale>
 #include <string>
 
-namespace clipvane {
+namespace clipvane::test {
 
 /// Makes the locale called `name` that of the process, for the C and the C++ library, for its life.
 /// Those made for the tests are found through LOCPATH, which the test run sets.
@@ -30,4 +30,4 @@ class ScopedLocale {
 /// The locales whose numbers or letter cases differ from those of "C".
 inline constexpr const char* localesOfTests[] = {"de_DE.UTF-8", "tr_TR.UTF-8"};
 
-}  // namespace clipvane
+}  // namespace clipvane::test

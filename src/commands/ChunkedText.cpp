@@ -1,0 +1,26 @@
+#include "commands/ChunkedText.h"
+
+#include <utility>
+
+#include "base/AtomicFile.h"
+
+namespace clipvane {
+
+std::string wholeText(const ChunkedText& text) {
+    std::string whole;
+    static_cast<void>(text([&](std::string_view chunk) -> Result<void> {
+        whole += chunk;
+        return {};
+    }));
+    return whole;
+}
+
+Result<void> writeText(const ChunkedText& text, const std::filesystem::path& url) {
+    auto file = AtomicFile::create(url);
+    if (!file) return tl::unexpected(std::move(file.error()));
+    auto written = text([&](std::string_view chunk) { return file->write(chunk); });
+    if (!written) return written;
+    return file->commit();
+}
+
+}  // namespace clipvane

@@ -1,0 +1,48 @@
+#include "import/ClipNameComment.h"
+
+#include "base/Characters.h"
+
+namespace clipvane {
+namespace {
+
+constexpr std::string_view keyword = "from clip name";
+
+// Two characters outside ASCII have letters of the keyword as their upper case.
+constexpr std::string_view dotlessI = "\u0131";    // I
+constexpr std::string_view ligatureFF = "\uFB00";  // FF, of which the second may begin the keyword
+
+/// Whether `rest` goes on with the keyword from its second letter.
+bool continuesKeyword(std::string_view rest) {
+    for (const char letter : keyword.substr(1)) {
+        if (rest.empty()) return false;
+        if (asciiLower(rest.front()) == letter) {
+            rest.remove_prefix(1);
+        } else if (letter == 'i' && rest.starts_with(dotlessI)) {
+            rest.remove_prefix(dotlessI.size());
+        } else {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool containsKeyword(std::string_view line) {
+    for (; line.size() >= keyword.size(); line.remove_prefix(1)) {
+        const bool starts = asciiLower(line.front()) == keyword.front();
+        if (starts && continuesKeyword(line.substr(1))) return true;
+        if (line.starts_with(ligatureFF) && continuesKeyword(line.substr(ligatureFF.size()))) {
+            return true;
+        }
+    }
+    return false;
+}
+
+}  // namespace
+
+std::optional<std::string_view> clipNameComment(std::string_view line) {
+    if (!containsKeyword(line)) return std::nullopt;
+    // Without a colon rfind gives npos, and npos + 1 is the line's beginning.
+    return trimBlanksAndNewlines(line.substr(line.rfind(':') + 1));
+}
+
+}  // namespace clipvane

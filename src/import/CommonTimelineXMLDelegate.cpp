@@ -1,0 +1,179 @@
+#include "import/CommonTimelineXMLDelegate.h"
+
+#include <algorithm>
+
+#include "base/Characters.h"
+#include "base/Number.h"
+#include "import/XMLText.h"
+
+namespace clipvane {
+namespace {
+
+void fillIfEmpty(std::string& field, std::string_view text) {
+    if (field.empty()) field = text;
+}
+
+/// A name that was made up from the element, and gives way to the first real one.
+bool isPlaceholderName(std::string_view clipName) {
+    return clipName.empty() || clipName.starts_with("clip") || clipName == "Clip";
+}
+
+bool isTrue(std::string_view value) {
+    return std::ranges::equal(value, std::string_view("true"), {}, asciiLower);
+}
+
+}  // namespace
+
+void CommonTimelineXMLDelegate::didStartElement(std::string_view name,
+                                                const XMLAttributes& attributes) {
+    currentText.clear();
+    switch (const XMLElement element = classifyXMLElement(name)) {
+        case XMLElement::asset:
+        case XMLElement::file:
+            startAsset(attributes);
+            break;
+        case XMLElement::event:
+            startEvent(name, attributes);
+            break;
+        case XMLElement::source:
+        case XMLElement::record:
+            if (pendingClipIndex) {
+                TimelineEvent& event = events[*pendingClipIndex];
+                const bool isSource = element == XMLElement::source;
+                setRange(attributes, isSource ? event.sourceIn : event.recordIn,
+                         isSource ? event.sourceOut : event.recordOut);
+            }
+            break;
+        case XMLElement::clip:
+            startClip(name, attributes);
+            break;
+        default:
+            break;
+    }
+}
+
+void CommonTimelineXMLDelegate::foundCharacters(std::string_view characters) {
+    // Without a pending event nobody will ask for the text.
+    if (pendingClipIndex) currentText += characters;
+}
+
+void CommonTimelineXMLDelegate::didEndElement(std::string_view name) {
+    if (!pendingClipIndex) return;
+    const XMLElement element = classifyXMLElement(name);
+    if (endsEvent(element)) {
+        pendingClipIndex.reset();
+    } else if (element != XMLElement::other) {
+        setField(element, events[*pendingClipIndex]);
+    }
+}
+
+void CommonTimelineXMLDelegate::startAsset(const XMLAttributes& attributes) {
+    const auto id = attributes.firstOf({"id", "uid"});
+    if (!id) return;
+    assetNames[std::string(*id)] = attributes.firstOf({"name", "src", "pathurl"}).value_or(*id);
+}
+
+void CommonTimelineXMLDelegate::startEvent(std::string_view name, const XMLAttributes& attributes) {
+    TimelineEvent& event = appendEvent(name);
+    if (const auto number = attributes.find("number")) event.eventNumber = cleanedXMLText(*number);
+    event.highlighted = isTrue(attributes.find("highlighted").value_or(""));
+}
+
+void CommonTimelineXMLDelegate::startClip(std::string_view name, const XMLAttributes& attributes) {
+    const std::string reference(attributes.firstOf({"ref", "asset", "id"}).value_or(""));
+    const auto displayName = [&]() -> std::string_view {
+        if (const auto value = attributes.find("name")) return *value;
+        if (const auto found = assetNames.find(reference); found != assetNames.end()) {
+            return found->second;
+        }
+        return attributes.find("lane").value_or(name);
+    };
+    const std::string_view start = attributes.firstOf({"start", "tcStart", "in"}).value_or("");
+    const std::string_view offset =
+        attributes.firstOf({"offset", "timelineStart", "start"}).value_or("");
+    const std::string_view duration = attributes.find("duration").value_or("");
+    const std::string_view reel =
+        reference.empty() ? attributes.firstOf({"reel", "src"}).value_or("") : reference;
+    const auto out = attributes.find("out");
+    const auto recordEnd = attributes.find("end");
+
+    TimelineEvent& event = appendEvent(name);
+    event.clipName = cleanedXMLText(displayName());
+    event.sourceIn = timing(start);
+    event.recordIn = timing(offset);
+    event.reelID = cleanedXMLText(reel);
+    event.sourceOut = out ? timing(*out) : end(event.sourceIn, duration);
+    event.recordOut = recordEnd ? timing(*recordEnd) : end(event.recordIn, duration);
+    event.track = cleanedXMLText(attributes.firstOf({"lane", "track"}).value_or(name));
+}
+
+void CommonTimelineXMLDelegate::setRange(const XMLAttributes& attributes, std::string& in,
+                                         std::string& out) const {
+    if (const auto value = attributes.find("in")) in = timing(*value);
+    if (const auto value = attributes.find("out")) out = timing(*value);
+}
+
+void CommonTimelineXMLDelegate::setField(XMLElement element, TimelineEvent& event) const {
+    const std::string text = cleanedXMLText(currentText);
+    if (text.empty()) return;
+    const auto fillTime = [&](std::string& field) {
+        if (field.empty()) field = timing(text);
+    };
+    switch (element) {
+        case XMLElement::clipName:
+            event.clipName = text;
+            break;
+        case XMLElement::name:
+            if (isPlaceholderName(event.clipName)) event.clipName = text;
+            break;
+        case XMLElement::reel:
+        case XMLElement::file:
+            fillIfEmpty(event.reelID, text);
+            break;
+        case XMLElement::track:
+            fillIfEmpty(event.track, text);
+            break;
+        case XMLElement::comments:
+            event.comments = text;
+            break;
+        case XMLElement::in:
+            fillTime(event.sourceIn);
+            break;
+        case XMLElement::out:
+            fillTime(event.sourceOut);
+            break;
+        case XMLElement::start:
+            fillTime(event.recordIn);
+            break;
+        case XMLElement::end:
+            fillTime(event.recordOut);
+            break;
+        case XMLElement::duration:
+            if (event.sourceOut.empty()) event.sourceOut = end(event.sourceIn, text);
+            if (event.recordOut.empty()) event.recordOut = end(event.recordIn, text);
+            break;
+        default:
+            break;
+    }
+}
+
+/// A new event numbered by its position, now the pending one.
+TimelineEvent& CommonTimelineXMLDelegate::appendEvent(std::string_view name) {
+    pendingClipIndex = events.size();
+    TimelineEvent& event = events.emplace_back();
+    event.id = identifiers.next();
+    appendInteger(event.eventNumber, static_cast<std::int64_t>(events.size()));
+    event.format = "XML";
+    event.rawText = name;
+    return event;
+}
+
+/// The timecode `duration` after `start`, or empty text when either has no frame count.
+std::string CommonTimelineXMLDelegate::end(std::string_view start,
+                                           std::string_view duration) const {
+    const auto first = frames(start);
+    const auto count = first ? frames(duration) : std::nullopt;
+    return count ? timecode(addChecked(*first, *count)) : std::string();
+}
+
+}  // namespace clipvane

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "base/UUID.h"
+#include "import/XMLAttributes.h"
+#include "import/XMLElement.h"
+#include "model/TimelineEvent.h"
+
+namespace clipvane {
+
+/// Turns one XML timeline into events. An event-driven parser calls it back with each element's
+/// start, with character data, and with each element's end, all in UTF-8; whatever it understood
+/// is in `events`. One object serves one document.
+class CommonTimelineXMLDelegate {
+  public:
+    /// `fps`: frames per second at which frame numbers and seconds become timecodes.
+    explicit CommonTimelineXMLDelegate(double fps) : fps(fps) {}
+
+    void didStartElement(std::string_view name, const XMLAttributes& attributes);
+    void foundCharacters(std::string_view characters);
+    void didEndElement(std::string_view name);
+
+    // Timing values: frame numbers ("250"), seconds ("10s", "1001/30000s") and timecodes. They are
+    // not the timecode arithmetic's: no drop-frame separator is ever written, and a timecode needs
+    // a colon. A count outside 64 bits is fatal, as is a number that is not finite.
+
+    /// A timing value as a timecode: a timecode as it stands, empty text for empty text or a
+    /// negative frame number, and what cannot be understood as it stands, too.
+    std::string timing(std::string_view value) const;
+
+    /// The frames in a timing value, or nothing when it is none.
+    std::optional<std::int64_t> frames(std::string_view from) const;
+
+    /// HH:MM:SS:FF; every field of a negative count carries its own minus sign.
+    std::string timecode(std::int64_t fromFrames) const;
+
+    std::vector<TimelineEvent> events;
+
+  private:
+    void startAsset(const XMLAttributes& attributes);
+    void startEvent(std::string_view name, const XMLAttributes& attributes);
+    void startClip(std::string_view name, const XMLAttributes& attributes);
+    void setRange(const XMLAttributes& attributes, std::string& in, std::string& out) const;
+    void setField(XMLElement element, TimelineEvent& event) const;
+    TimelineEvent& appendEvent(std::string_view name);
+    std::string end(std::string_view start, std::string_view duration) const;
+
+    double fps;
+    std::unordered_map<std::string, std::string> assetNames;  ///< display names by asset id
+    std::string
+        currentText;  ///< character data since the last element start, if an event is pending
+    std::optional<std::size_t> pendingClipIndex;  ///< the event that elements write into
+    UUIDGenerator identifiers;
+};
+
+}  // namespace clipvane

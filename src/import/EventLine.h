@@ -1,0 +1,28 @@
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+namespace clipvane {
+
+/// The columns of an EDL's event line that are kept; views into the line.
+struct EventLine {
+    std::string_view number;
+    std::string_view reel;
+    std::string_view track;
+    std::string_view sourceIn;
+    std::string_view sourceOut;
+    std::string_view recordIn;
+    std::string_view recordOut;
+};
+
+/// Reads `line` as
+///
+///     number reel track edit [duration] source-in source-out record-in record-out ...
+///
+/// with columns separated by white space, which may also come first. Number and duration are
+/// decimal digits; timecodes are two digits a field with ":" between; anything may follow the last
+/// one. Digits and white space are Unicode's. Columns may have any length.
+std::optional<EventLine> matchEventLine(std::string_view line);
+
+}  // namespace clipvane

@@ -1,0 +1,89 @@
+#include <array>
+#include <cstdint>
+#include <cstring>
+
+#include "base/Characters.h"
+#include "base/Number.h"
+#include "import/FrameRateText.h"
+#include "import/TimelineParser.h"
+
+namespace clipvane {
+namespace {
+
+constexpr std::size_t blockSize = 16;
+using Block = std::uint8_t __attribute__((vector_size(blockSize)));
+
+/// Sixteen bytes in lower case; other characters may come out as letters, which a closer look sorts
+/// out.
+Block lowerCaseBlock(const char* bytes) {
+    Block block;
+    std::memcpy(&block, bytes, blockSize);
+    return block | 0x20;
+}
+
+/// Whether a place where a frame rate may be named, "fp", "fra" or "tim", starts in the sixteen
+/// bytes. Reads two bytes beyond them.
+bool mayHoldName(const char* bytes) {
+    const Block first = lowerCaseBlock(bytes);
+    const Block second = lowerCaseBlock(bytes + 1);
+    const Block third = lowerCaseBlock(bytes + 2);
+    const auto found = ((first == 'f') & ((second == 'p') | ((second == 'r') & (third == 'a')))) |
+                       ((first == 't') & (second == 'i') & (third == 'm'));
+    std::array<std::uint64_t, 2> halves;
+    std::memcpy(halves.data(), &found, sizeof halves);
+    return (halves[0] | halves[1]) != 0;
+}
+
+/// The first match of each form in which a file may name its rate. An unusable rate is a match,
+/// too: it keeps later ones of the same form from being looked at.
+struct FirstMatches {
+    std::optional<NamedRate> named;          // fps: 25
+    std::optional<NamedRate> element;        // <timebase>25</timebase>
+    std::optional<NamedRate> attribute;      // timebase="25"
+    std::optional<NamedRate> frameDuration;  // frameDuration="1/25s"
+
+    void lookAt(std::string_view text, std::size_t position) {
+        const std::string_view rest = text.substr(position);
+        switch (asciiLower(rest.front())) {
+            case 'f':
+                if (!named) named = matchNamedRate(rest);
+                if (!frameDuration) frameDuration = matchFrameDuration(rest);
+                break;
+            case 't':
+                if (!element && position > 0) element = matchElement(text.substr(position - 1));
+                if (!attribute) attribute = matchAttribute(rest);
+                break;
+            default:
+                break;
+        }
+    }
+
+    /// Nothing takes precedence over the first form.
+    bool decided() const { return named && named->isUsable; }
+
+    std::optional<double> rate() const {
+        for (const auto& match : {named, element, attribute, frameDuration}) {
+            if (match && match->isUsable) return match->fps;
+        }
+        return std::nullopt;
+    }
+};
+
+}  // namespace
+
+std::optional<double> TimelineParser::detectFPS(std::string_view in) {
+    FirstMatches matches;
+    std::size_t position = 0;
+    while (position < in.size() && !matches.decided()) {
+        const bool wholeBlock = position + blockSize + 2 <= in.size();
+        const std::size_t end = wholeBlock ? position + blockSize : in.size();
+        if (!wholeBlock || mayHoldName(in.data() + position)) {
+            for (std::size_t i = position; i < end && !matches.decided(); ++i)
+                matches.lookAt(in, i);
+        }
+        position = end;
+    }
+    return matches.rate();
+}
+
+}  // namespace clipvane

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+namespace clipvane {
+
+/// Walks through the lines of a UTF-8 text. Every newline character (`isNewline`) ends a line by
+/// itself, so a carriage return and line feed have an empty line between them.
+class Lines {
+  public:
+    explicit Lines(std::string_view text) : rest(text) {}
+
+    /// The next line without its newline, or nothing after the last one.
+    std::optional<std::string_view> next();
+
+  private:
+    std::optional<std::string_view> rest;
+};
+
+}  // namespace clipvane

@@ -1,0 +1,81 @@
+#include "import/TimelineParser.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <new>
+#include <stdexcept>
+
+#include "base/Characters.h"
+#include "base/File.h"
+#include "base/UTF8.h"
+#include "model/FrameRateSource.h"
+
+namespace clipvane {
+namespace {
+
+constexpr std::array<std::string_view, 2> edlExtensions{"edl", "txt"};
+constexpr std::array<std::string_view, 3> xmlExtensions{"xml", "fcpxml", "xmeml"};
+
+Error unsupportedType() {
+    return {"Clipvane", 10, "Unsupported file type. Open EDL, XML, FCPXML, or XMEML files."};
+}
+
+/// The text after the last "." of the file's name, in lower case; empty without one. No letter
+/// outside ASCII has a lower case that an accepted extension holds.
+std::string lowerCaseExtension(const std::filesystem::path& url) {
+    const std::string name = url.filename().native();
+    const std::size_t dot = name.rfind('.');
+    if (dot == std::string::npos) return {};
+    std::string extension = name.substr(dot + 1);
+    std::ranges::transform(extension, extension.begin(), asciiLower);
+    return extension;
+}
+
+template <class Extensions>
+bool contains(const Extensions& extensions, std::string_view extension) {
+    return std::ranges::find(extensions, extension) != extensions.end();
+}
+
+TimelineParseResult resultAtRate(const std::optional<double>& detectedFPS) {
+    if (detectedFPS) return {{}, *detectedFPS, std::string(fpsSourceFile)};
+    return {{}, defaultFPS, std::string(fpsSourceDefault)};
+}
+
+TimelineParseResult parseEDLText(std::string_view text) {
+    TimelineParseResult result = resultAtRate(TimelineParser::detectFPS(text));
+    result.events = TimelineParser::parseEDL(text);
+    return result;
+}
+
+TimelineParseResult parseXMLData(std::string_view data) {
+    // The rate is looked for in the bytes as UTF-8, whatever the document's encoding.
+    TimelineParseResult result = resultAtRate(TimelineParser::detectFPS(data));
+    result.events = TimelineParser::parseXML(data, result.fps);
+    return result;
+}
+
+}  // namespace
+
+Result<TimelineParseResult> TimelineParser::parse(const std::filesystem::path& url) try {
+    auto file = readFile(url);
+    if (!file) return tl::unexpected(std::move(file.error()));
+    const std::string extension = lowerCaseExtension(url);
+
+    if (contains(edlExtensions, extension)) {
+        if (validUTF8Prefix(file->view()) == file->view().size()) {
+            return parseEDLText(file->view());
+        }
+        const std::string text = replaceInvalidUTF8(file->view());
+        *file = {};
+        return parseEDLText(text);
+    }
+    if (contains(xmlExtensions, extension)) return parseXMLData(file->view());
+    return tl::unexpected(unsupportedType());
+} catch (const std::bad_alloc&) {
+    return tl::unexpected(fileError("read", url, ENOMEM));
+} catch (const std::length_error&) {
+    return tl::unexpected(fileError("read", url, ENOMEM));
+}
+
+}  // namespace clipvane

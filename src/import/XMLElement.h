@@ -1,0 +1,46 @@
+#pragma once
+
+#include <string_view>
+
+namespace clipvane {
+
+/// What an element of an XML timeline means to the reader. Element names count in either case.
+enum class XMLElement {
+    other,
+    // Elements that name the media which clips refer to.
+    asset,  // asset, media
+    file,   // also gives a reel
+    // Elements that are events, and their parts.
+    event,
+    source,
+    record,
+    clip,       // clipitem, clip, asset-clip, sync-clip, mc-clip, gap, title
+    container,  // sequence, project
+    // Elements whose text fills a field.
+    clipName,
+    name,
+    reel,  // reelid, reel, reelname, masterclipid
+    track,
+    comments,  // comments, comment
+    in,
+    out,
+    start,
+    end,
+    duration,
+};
+
+/// The meaning of the element called `name` (UTF-8, as written).
+XMLElement classifyXMLElement(std::string_view name);
+
+/// Whether the element can name media that clips refer to.
+constexpr bool isAsset(XMLElement element) {
+    return element == XMLElement::asset || element == XMLElement::file;
+}
+
+/// Whether the element's end tag ends the pending event.
+constexpr bool endsEvent(XMLElement element) {
+    return element == XMLElement::event || element == XMLElement::clip ||
+           element == XMLElement::container;
+}
+
+}  // namespace clipvane

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace clipvane {
+
+/// The bytes of an XML document in an encoding that the parser reads itself.
+struct XMLBytes {
+    std::string transcoded;  ///< empty when the file's own bytes serve
+    const char* encoding = nullptr;
+
+    std::string_view of(std::string_view data) const {
+        return transcoded.empty() ? data : std::string_view(transcoded);
+    }
+};
+
+/// Decides in which encoding to read the document, so that a false or unknown encoding name in its
+/// declaration costs nothing: a byte-order mark or the first bytes tell UTF-16 from the others, and
+/// a mark tells UTF-8; otherwise a declared name that ICU knows counts, and UTF-8 where there is
+/// none.
+XMLBytes readableXML(std::string_view data);
+
+}  // namespace clipvane

@@ -1,0 +1,93 @@
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "base/Number.h"
+#include "import/CommonTimelineXMLDelegate.h"
+#include "import/XMLText.h"
+
+namespace clipvane {
+namespace {
+
+std::int64_t frameBase(double fps) {
+    return std::max<std::int64_t>(roundToInteger(fps), 1);
+}
+
+bool holdsColon(std::string_view text) {
+    return text.find(':') != std::string_view::npos;
+}
+
+std::optional<std::int64_t> timecodeFrames(std::string_view text, double fps) {
+    std::array<std::int64_t, 4> fields{};  // hours, minutes, seconds, frames
+    std::size_t count = 0;
+    while (true) {
+        const std::size_t separator = text.find_first_of(":;");
+        if (const auto number = parseInteger(text.substr(0, separator))) {
+            if (count == fields.size()) return std::nullopt;
+            fields[count++] = *number;
+        }
+        if (separator == std::string_view::npos) break;
+        text.remove_prefix(separator + 1);
+    }
+    if (count != fields.size()) return std::nullopt;
+    const std::int64_t minutes = addChecked(multiplyChecked(fields[0], 60), fields[1]);
+    const std::int64_t seconds = addChecked(multiplyChecked(minutes, 60), fields[2]);
+    return addChecked(multiplyChecked(seconds, frameBase(fps)), fields[3]);
+}
+
+/// Frames in "numerator/denominator" seconds. A numerator that is no number counts as zero.
+std::optional<std::int64_t> fractionFrames(std::string_view numerator, std::string_view denominator,
+                                           double fps) {
+    const auto divisor = parseNumber(denominator);
+    if (!divisor || !(*divisor > 0)) return std::nullopt;
+    return roundToInteger(parseNumber(numerator).value_or(0) / *divisor * fps);
+}
+
+std::optional<std::int64_t> secondsFrames(std::string_view seconds, double fps) {
+    const std::size_t slash = seconds.find('/');
+    if (slash != std::string_view::npos) {
+        return fractionFrames(seconds.substr(0, slash), seconds.substr(slash + 1), fps);
+    }
+    const auto number = parseNumber(seconds);
+    if (!number) return std::nullopt;
+    return roundToInteger(*number * fps);
+}
+
+std::optional<std::int64_t> cleanedFrames(std::string_view text, double fps) {
+    if (holdsColon(text)) return timecodeFrames(text, fps);
+    if (text.ends_with('s')) return secondsFrames(text.substr(0, text.size() - 1), fps);
+    const auto number = parseNumber(text);
+    if (!number || *number < 0) return std::nullopt;
+    return roundToInteger(*number);
+}
+
+}  // namespace
+
+std::string CommonTimelineXMLDelegate::timing(std::string_view value) const {
+    std::string text = cleanedXMLText(value);
+    if (text.empty() || holdsColon(text)) return text;
+    if (const auto number = parseNumber(text); number && *number < 0) return {};
+    const auto count = cleanedFrames(text, fps);
+    return count ? timecode(*count) : text;
+}
+
+std::optional<std::int64_t> CommonTimelineXMLDelegate::frames(std::string_view from) const {
+    return cleanedFrames(cleanedXMLText(from), fps);
+}
+
+std::string CommonTimelineXMLDelegate::timecode(std::int64_t fromFrames) const {
+    const std::int64_t base = frameBase(fps);
+    const std::int64_t seconds = fromFrames / base;
+    const std::int64_t frames = fromFrames - seconds * base;
+    std::string text;
+    appendPadded(text, seconds / 3600, 2);
+    text += ':';
+    appendPadded(text, seconds / 60 % 60, 2);
+    text += ':';
+    appendPadded(text, seconds % 60, 2);
+    text += ':';
+    appendPadded(text, frames, 2);
+    return text;
+}
+
+}  // namespace clipvane
