@@ -2,12 +2,15 @@
 
 #include <gtest/gtest.h>
 #include <stdlib.h>
+#include <sys/stat.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace clipvane::test {
 
@@ -36,6 +39,16 @@ class TemporaryFolder {
         return std::distance(std::filesystem::directory_iterator(folder), {});
     }
 
+    /// The names of the entries, hidden ones included, sorted.
+    std::vector<std::string> names() const {
+        std::vector<std::string> names;
+        for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+            names.push_back(entry.path().filename());
+        }
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+
   private:
     std::filesystem::path folder;
 };
@@ -47,6 +60,13 @@ inline std::string contentOf(const std::filesystem::path& path) {
 
 inline void writeContent(const std::filesystem::path& path, std::string_view content) {
     std::ofstream(path, std::ios::binary) << content;
+}
+
+/// The permission bits of what is at `path`, links followed.
+inline unsigned modeOf(const std::filesystem::path& path) {
+    struct stat status {};
+    EXPECT_EQ(::stat(path.c_str(), &status), 0) << path;
+    return status.st_mode & 07777U;
 }
 
 }  // namespace clipvane::test

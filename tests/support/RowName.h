@@ -1,0 +1,17 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace clipvane::test {
+
+/// Names a parameterised test after its row's `name`.
+struct RowName {
+    template <class Row>
+    std::string operator()(const testing::TestParamInfo<Row>& info) const {
+        return std::string(info.param.name);
+    }
+};
+
+}  // namespace clipvane::test
