@@ -58,6 +58,7 @@ void ClipvaneStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
         case PE_FrameFocusRect:
         case PE_FrameDefaultButton:
         case PE_FrameStatusBarItem:
+        case PE_PanelScrollAreaCorner:
             return;  // the controls show the focus themselves
         case PE_PanelLineEdit:
             return paintField(*painter, *option, option->palette.color(QPalette::Base));

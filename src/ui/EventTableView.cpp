@@ -56,10 +56,12 @@ void EventTableView::setModel(QAbstractItemModel* model) {
         setColumnWidth(column, narrowest(column));
     }
     fitting = false;
-    connect(model, &QAbstractItemModel::rowsRemoved, this, [this] {
+    const auto layOut = [this] {
         updateGeometries();
         viewport()->update();
-    });
+    };
+    connect(model, &QAbstractItemModel::rowsRemoved, this, layOut);
+    connect(model, &QAbstractItemModel::modelReset, this, layOut);
 }
 
 int EventTableView::rowCount() const {
@@ -240,14 +242,15 @@ void EventTableView::keyPressEvent(QKeyEvent* event) {
 
 void EventTableView::focusInEvent(QFocusEvent* event) {
     QTableView::focusInEvent(event);
-    horizontalHeader()->viewport()->update();
-    viewport()->update();
+    const Qt::FocusReason reason = event->reason();
+    if (reason != Qt::TabFocusReason && reason != Qt::BacktabFocusReason) return;
+    if (focusFrame == nullptr) focusFrame = new QFocusFrame(this);
+    focusFrame->setWidget(this);
 }
 
 void EventTableView::focusOutEvent(QFocusEvent* event) {
     QTableView::focusOutEvent(event);
-    horizontalHeader()->viewport()->update();
-    viewport()->update();
+    if (focusFrame != nullptr) focusFrame->setWidget(nullptr);
 }
 
 }  // namespace clipvane

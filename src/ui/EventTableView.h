@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFocusFrame>
 #include <QStringListModel>
 #include <QTableView>
 
@@ -49,6 +50,7 @@ class EventTableView : public QTableView {
     void fitLastColumn();
     void paintRow(QPainter& painter, int row, const QRect& dirty) const;
 
+    QFocusFrame* focusFrame = nullptr;  ///< seen while the keyboard has led here
     QStringListModel noRows;  ///< the vertical header's model
     bool fitting = false;
 };

@@ -10,7 +10,8 @@ namespace {
 
 /// Extensions in any case, spelled out: not every kind of dialog ignores case by itself.
 constexpr const char* timelineFilter =
-    "Timelines (*.[eE][dD][lL] *.[tT][xX][tT] *.[xX][mM][lL] *.[fF][cC][pP][xX][mM][lL] "
+    "EDL, TXT, XML, FCPXML and XMEML timelines (*.[eE][dD][lL] *.[tT][xX][tT] *.[xX][mM][lL] "
+    "*.[fF][cC][pP][xX][mM][lL] "
     "*.[xX][mM][eE][mM][lL])";
 
 std::optional<std::filesystem::path> run(QFileDialog& panel, QString& folder) {
@@ -26,6 +27,7 @@ std::optional<std::filesystem::path> FilePanels::runOpenPanel() {
     QFileDialog panel(parent, "Open Timeline");
     panel.setFileMode(QFileDialog::ExistingFile);
     panel.setNameFilter(timelineFilter);
+    panel.setOption(QFileDialog::HideNameFilterDetails);
     return run(panel, folder);
 }
 
