@@ -42,7 +42,20 @@ bool isTooLarge(std::string_view literal, bool hexadecimal) {
     return places * (hexadecimal ? 4 : 1) + exponent > 0;
 }
 
+/// The value of up to fifteen digits, which a double holds exactly; nothing for any other text.
+std::optional<double> parseShortDigits(std::string_view text) {
+    constexpr std::size_t exactDigits = std::numeric_limits<double>::digits10;
+    if (text.empty() || text.size() > exactDigits) return std::nullopt;
+    std::int64_t value = 0;
+    for (const char c : text) {
+        if (!isASCIIDigit(static_cast<unsigned char>(c))) return std::nullopt;
+        value = value * 10 + (c - '0');
+    }
+    return static_cast<double>(value);
+}
+
 std::optional<double> parseUnsigned(std::string_view text) {
+    if (const auto value = parseShortDigits(text)) return value;
     if (equalsIgnoringCase(text, "inf") || equalsIgnoringCase(text, "infinity")) {
         return std::numeric_limits<double>::infinity();
     }
@@ -125,6 +138,11 @@ void appendInteger(std::string& text, std::int64_t value) {
 }
 
 void appendPadded(std::string& text, std::int64_t value, int width) {
+    if (width == 2 && value >= 0 && value < 100) {  // nearly every field of a timecode
+        text += static_cast<char>('0' + value / 10);
+        text += static_cast<char>('0' + value % 10);
+        return;
+    }
     std::array<char, 20> digits;  // 19 digits and a sign
     const auto [end, error] = std::to_chars(digits.data(), digits.data() + digits.size(), value);
     const std::string_view written(digits.data(), static_cast<std::size_t>(end - digits.data()));

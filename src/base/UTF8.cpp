@@ -42,7 +42,7 @@ std::size_t asciiPrefix(std::string_view text) {
 
 }  // namespace
 
-CodePoint firstCodePoint(std::string_view text) {
+CodePoint firstCodePointBeyondASCII(std::string_view text) {
     std::int32_t length = 0;
     const UChar32 codePoint = decodeFirst(text, length);
     return {codePoint < 0 ? U'\uFFFD' : static_cast<char32_t>(codePoint),

@@ -14,7 +14,11 @@ struct CodePoint {
 
 /// The first code point of `text`, which must not be empty. An ill-formed sequence is read as
 /// U+FFFD over its maximal subpart, as Unicode recommends.
-CodePoint firstCodePoint(std::string_view text);
+CodePoint firstCodePointBeyondASCII(std::string_view text);
+inline CodePoint firstCodePoint(std::string_view text) {
+    const auto byte = static_cast<unsigned char>(text.front());
+    return byte < 0x80 ? CodePoint{byte, 1} : firstCodePointBeyondASCII(text);
+}
 
 /// The last code point of `text`, which must not be empty, by the same rule.
 CodePoint lastCodePoint(std::string_view text);

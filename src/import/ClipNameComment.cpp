@@ -1,5 +1,7 @@
 #include "import/ClipNameComment.h"
 
+#include <algorithm>
+
 #include "base/Characters.h"
 
 namespace clipvane {
@@ -27,12 +29,16 @@ bool continuesKeyword(std::string_view rest) {
 }
 
 bool containsKeyword(std::string_view line) {
-    for (; line.size() >= keyword.size(); line.remove_prefix(1)) {
-        const bool starts = asciiLower(line.front()) == keyword.front();
-        if (starts && continuesKeyword(line.substr(1))) return true;
-        if (line.starts_with(ligatureFF) && continuesKeyword(line.substr(ligatureFF.size()))) {
-            return true;
-        }
+    const auto mayStart = [](char c) { return c == 'F' || c == 'f' || c == ligatureFF.front(); };
+    while (line.size() >= keyword.size()) {
+        const auto lastStart = line.end() - keyword.size() + 1;
+        const auto start = std::find_if(line.begin(), lastStart, mayStart);
+        if (start == lastStart) return false;
+        line.remove_prefix(static_cast<std::size_t>(start - line.begin()));
+        const std::size_t length = line.starts_with(ligatureFF) ? ligatureFF.size() : 1;
+        const bool starts = length > 1 || line.front() != ligatureFF.front();
+        line.remove_prefix(length);
+        if (starts && continuesKeyword(line)) return true;
     }
     return false;
 }

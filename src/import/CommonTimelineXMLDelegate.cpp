@@ -114,7 +114,8 @@ void CommonTimelineXMLDelegate::setRange(const XMLAttributes& attributes, std::s
 }
 
 void CommonTimelineXMLDelegate::setField(XMLElement element, TimelineEvent& event) const {
-    const std::string text = cleanedXMLText(currentText);
+    const CleanedXMLText cleaned(currentText);
+    const std::string_view text = cleaned.view();
     if (text.empty()) return;
     const auto fillTime = [&](std::string& field) {
         if (field.empty()) field = timing(text);

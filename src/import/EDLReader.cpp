@@ -1,12 +1,12 @@
 #include "import/EDLReader.h"
 
-#include <new>
 #include <utility>
 
 #include "base/Characters.h"
-#include "base/HugePages.h"
 #include "import/ClipNameComment.h"
+#include "import/EventReservation.h"
 #include "import/Lines.h"
+#include "import/Scan.h"
 #include "import/TimelineParser.h"
 
 namespace clipvane {
@@ -14,6 +14,11 @@ namespace {
 
 /// So many events show how densely a file is written.
 constexpr std::size_t sampleCount = 1024;
+
+bool isComment(std::string_view line) {
+    takeWhile(line, [](char32_t c) { return isBlank(c); });
+    return line.starts_with('*');
+}
 
 std::string joinLines(const std::vector<std::string_view>& lines) {
     std::size_t size = lines.size() - 1;
@@ -47,7 +52,7 @@ void EDLReader::readLine(std::string_view line) {
     if (const auto name = clipNameComment(line)) {
         if (!name->empty()) current.clipName = *name;
         current.lines.push_back(line);
-    } else if (trimBlanks(line).starts_with('*')) {
+    } else if (isComment(line)) {
         current.lines.push_back(line);
     }
 }
@@ -78,22 +83,13 @@ void EDLReader::completeCurrentEvent() {
     event.track = columns.track;
     event.rawText = joinLines(current.lines);
 
-    if (events.size() == sampleCount) reserveForRest();
+    if (events.size() == sampleCount) {
+        const std::string_view last = current.lines.back();
+        const auto soFar = static_cast<std::size_t>(last.data() + last.size() - text.data());
+        reserveForRest(events, soFar, text.size());
+    }
     current.clipName = {};
     current.lines.clear();
-}
-
-/// A large list that grows by doubling would be written twice and more. The part read so far tells
-/// how many events to expect; a wrong guess costs address space or time, nothing else.
-void EDLReader::reserveForRest() try {
-    const std::string_view lastLine = current.lines.back();
-    const auto readSoFar =
-        static_cast<std::size_t>(lastLine.data() + lastLine.size() - text.data());
-    const std::size_t expected = text.size() / readSoFar * sampleCount;
-    events.reserve(expected + expected / 16 + 2 * sampleCount);
-    adviseHugePages(events.data(), events.capacity() * sizeof(TimelineEvent));
-} catch (const std::bad_alloc&) {
-    // There may still be room for the events that really come.
 }
 
 }  // namespace clipvane

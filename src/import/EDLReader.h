@@ -29,7 +29,6 @@ class EDLReader {
     };
 
     void completeCurrentEvent();
-    void reserveForRest();
 
     std::string_view text;
     std::vector<TimelineEvent> events;

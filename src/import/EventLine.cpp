@@ -6,23 +6,42 @@
 namespace clipvane {
 namespace {
 
-bool isColumnCharacter(char32_t c) {
-    return !isWhiteSpace(c);
-}
+// Function objects, which the scanning loop can take in whole.
+constexpr auto whiteSpace = [](char32_t c) { return isWhiteSpace(c); };
+constexpr auto columnCharacter = [](char32_t c) { return !isWhiteSpace(c); };
+constexpr auto digit = [](char32_t c) { return isDecimalDigit(c); };
 
 bool takeSeparator(std::string_view& rest) {
-    return !takeWhile(rest, isWhiteSpace).empty();
+    return !takeWhile(rest, whiteSpace).empty();
 }
 
 bool takeDigit(std::string_view& rest) {
     if (rest.empty()) return false;
     const CodePoint first = firstCodePoint(rest);
-    if (!isDecimalDigit(first.value)) return false;
+    if (!digit(first.value)) return false;
     rest.remove_prefix(first.length);
     return true;
 }
 
+constexpr std::string_view form = "00:00:00:00";
+
+/// Whether `text` begins with a timecode in ASCII digits, as nearly all do.
+bool startsWithASCIITimecode(std::string_view text) {
+    if (text.size() < form.size()) return false;
+    bool matches = true;
+    for (std::size_t i = 0; i < form.size(); ++i) {
+        const char c = text.data()[i];
+        matches &= form[i] == ':' ? c == ':' : isASCIIDigit(static_cast<unsigned char>(c));
+    }
+    return matches;
+}
+
 bool takeTimecode(std::string_view& rest, std::string_view& timecode) {
+    if (startsWithASCIITimecode(rest)) {
+        timecode = rest.substr(0, form.size());
+        rest.remove_prefix(form.size());
+        return true;
+    }
     const std::string_view start = rest;
     for (int field = 0; field < 4; ++field) {
         if (field > 0 && !takeCharacter(rest, ':')) return false;
@@ -35,7 +54,7 @@ bool takeTimecode(std::string_view& rest, std::string_view& timecode) {
 /// A column of digits, which a timecode is not: its first field ends at a colon.
 void takeDuration(std::string_view& rest) {
     std::string_view after = rest;
-    if (!takeWhile(after, isDecimalDigit).empty() && takeSeparator(after)) rest = after;
+    if (!takeWhile(after, digit).empty() && takeSeparator(after)) rest = after;
 }
 
 }  // namespace
@@ -46,14 +65,14 @@ std::optional<EventLine> matchEventLine(std::string_view line) {
     std::string_view rest = line;
     EventLine columns;
 
-    takeWhile(rest, isWhiteSpace);
-    columns.number = takeWhile(rest, isDecimalDigit);
+    takeWhile(rest, whiteSpace);
+    columns.number = takeWhile(rest, digit);
     if (columns.number.empty() || !takeSeparator(rest)) return std::nullopt;
-    columns.reel = takeWhile(rest, isColumnCharacter);
+    columns.reel = takeWhile(rest, columnCharacter);
     if (!takeSeparator(rest)) return std::nullopt;
-    columns.track = takeWhile(rest, isColumnCharacter);
+    columns.track = takeWhile(rest, columnCharacter);
     if (!takeSeparator(rest)) return std::nullopt;
-    takeWhile(rest, isColumnCharacter);  // the edit type
+    takeWhile(rest, columnCharacter);  // the edit type
     if (!takeSeparator(rest)) return std::nullopt;
     takeDuration(rest);
 

@@ -9,16 +9,14 @@ namespace clipvane {
 /// Removes the longest run of code points in `isMember` from the front of `rest` and returns it.
 template <class Predicate>
 std::string_view takeWhile(std::string_view& rest, Predicate isMember) {
-    std::size_t length = 0;
-    while (length < rest.size()) {
-        const auto byte = static_cast<unsigned char>(rest[length]);
-        const CodePoint next =
-            byte < 0x80 ? CodePoint{byte, 1} : firstCodePoint(rest.substr(length));
+    std::string_view after = rest;
+    while (!after.empty()) {
+        const CodePoint next = firstCodePoint(after);
         if (!isMember(next.value)) break;
-        length += next.length;
+        after.remove_prefix(next.length);
     }
-    const std::string_view taken = rest.substr(0, length);
-    rest.remove_prefix(length);
+    const std::string_view taken(rest.data(), rest.size() - after.size());
+    rest = after;
     return taken;
 }
 

@@ -14,10 +14,10 @@ class XMLAttributes {
 
     bool empty() const { return *namesAndValues == nullptr; }
 
-    /// The value of the attribute called `name`, which may be empty, or nothing without one.
+    /// The value, possibly empty, of the attribute called `name`; nothing without one.
     std::optional<std::string_view> find(std::string_view name) const {
         for (const char* const* pair = namesAndValues; *pair != nullptr; pair += 2) {
-            if (name == pair[0]) return pair[1];
+            if (isCalled(pair[0], name)) return pair[1];
         }
         return std::nullopt;
     }
@@ -31,6 +31,11 @@ class XMLAttributes {
     }
 
   private:
+    /// Most names differ in their first letter.
+    static bool isCalled(const char* attribute, std::string_view name) {
+        return attribute[0] == name[0] && name == attribute;
+    }
+
     const char* const* namesAndValues;
 };
 

@@ -8,7 +8,6 @@
 #include <string>
 
 #include "base/Characters.h"
-#include "base/UTF8.h"
 
 namespace clipvane {
 namespace {
@@ -51,14 +50,34 @@ constexpr std::array entries{
 };
 
 constexpr std::size_t longestName = 12;
-static_assert(std::ranges::is_sorted(entries, {}, &Entry::name));
 static_assert(std::ranges::all_of(entries,
                                   [](const Entry& e) { return e.name.size() <= longestName; }));
 
+// Every element start and end is looked up, so each name has a slot of its own in a table.
+constexpr std::size_t slotCount = 128;
+
+constexpr std::size_t slotOf(std::string_view name) {
+    const auto first = static_cast<unsigned char>(name.front());
+    const auto middle = static_cast<unsigned char>(name[name.size() / 2]);
+    const auto last = static_cast<unsigned char>(name.back());
+    return (name.size() + first + middle * 2u + last * 6u) % slotCount;
+}
+
+consteval std::array<Entry, slotCount> makeSlots() {
+    std::array<Entry, slotCount> slots{};
+    for (const Entry& entry : entries) {
+        Entry& slot = slots[slotOf(entry.name)];
+        if (!slot.name.empty()) throw "two names share a slot: choose other factors";
+        slot = entry;
+    }
+    return slots;
+}
+
+constexpr std::array<Entry, slotCount> slots = makeSlots();
+
 XMLElement lookUp(std::string_view lowerCaseName) {
-    const auto* const found = std::ranges::lower_bound(entries, lowerCaseName, {}, &Entry::name);
-    return found != entries.end() && found->name == lowerCaseName ? found->element
-                                                                  : XMLElement::other;
+    const Entry& slot = slots[slotOf(lowerCaseName)];
+    return slot.name == lowerCaseName ? slot.element : XMLElement::other;
 }
 
 /// For names with a character such as the Kelvin sign, whose lower case is an ASCII letter.
@@ -74,14 +93,15 @@ XMLElement classifyBeyondASCII(std::string_view name) {
 }  // namespace
 
 XMLElement classifyXMLElement(std::string_view name) {
-    if (name.size() > longestName || !isASCII(name)) {
-        constexpr std::size_t longestSequence = 4;
-        if (name.size() > longestName * longestSequence || isASCII(name)) return XMLElement::other;
-        return classifyBeyondASCII(name);
+    constexpr std::size_t longestSequence = 4;
+    if (name.empty() || name.size() > longestName * longestSequence) return XMLElement::other;
+    std::array<char, longestName * longestSequence> lowerCaseName;
+    bool ascii = true;
+    for (std::size_t i = 0; i < name.size(); ++i) {
+        ascii &= static_cast<unsigned char>(name[i]) < 0x80;
+        lowerCaseName[i] = asciiLower(name[i]);
     }
-    std::array<char, longestName> lowerCaseName;
-    std::ranges::transform(name, lowerCaseName.begin(), asciiLower);
-    return lookUp({lowerCaseName.data(), name.size()});
+    return ascii ? lookUp({lowerCaseName.data(), name.size()}) : classifyBeyondASCII(name);
 }
 
 }  // namespace clipvane

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "import/CommonTimelineXMLDelegate.h"
+#include "import/EventReservation.h"
 #include "import/TimelineParser.h"
 #include "import/XMLEncoding.h"
 
@@ -28,13 +29,16 @@ class ParserRun {
 
     /// Parses to the document's end or to its first error.
     void parse(std::string_view data) {
+        const std::size_t total = data.size();
         XML_Status status = XML_STATUS_OK;
         bool isFinal = false;
         while (status == XML_STATUS_OK && !isFinal) {
             const std::string_view piece = data.substr(0, pieceSize);
             data.remove_prefix(piece.size());
             isFinal = data.empty();
+            const bool isFirst = piece.size() + data.size() == total;
             status = XML_Parse(parser.get(), piece.data(), static_cast<int>(piece.size()), isFinal);
+            if (isFirst && !isFinal) reserveForRest(delegate.events, piece.size(), total);
         }
         if (failure) std::rethrow_exception(failure);
         if (XML_GetErrorCode(parser.get()) == XML_ERROR_NO_MEMORY) throw std::bad_alloc();

@@ -17,18 +17,19 @@ std::string replacingAll(std::string_view text, std::string_view what, std::stri
     }
 }
 
+/// Whether a text may hold what is replaced. The rational seconds that most texts are do not.
+bool mayNeedReplacing(std::string_view text) {
+    return text.find("//") != std::string_view::npos || text.find('%') != std::string_view::npos;
+}
+
 }  // namespace
 
-std::string cleanedXMLText(std::string_view text) {
-    constexpr std::string_view fileScheme = "file://";
-    constexpr std::string_view encodedBlank = "%20";
-    // Most texts hold neither a colon nor a percent sign, and need no copy for replacing.
-    const bool hasScheme = text.find(fileScheme) != std::string_view::npos;
-    if (!hasScheme && text.find(encodedBlank) == std::string_view::npos) {
-        return std::string(trimBlanksAndNewlines(text));
+CleanedXMLText::CleanedXMLText(std::string_view text) {
+    if (mayNeedReplacing(text)) {
+        storage = replacingAll(replacingAll(text, "file://", ""), "%20", " ");
+        text = storage;
     }
-    const std::string path = replacingAll(text, fileScheme, "");
-    return std::string(trimBlanksAndNewlines(replacingAll(path, encodedBlank, " ")));
+    cleaned = trimBlanksAndNewlines(text);
 }
 
 }  // namespace clipvane

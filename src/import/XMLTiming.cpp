@@ -17,16 +17,24 @@ bool holdsColon(std::string_view text) {
     return text.find(':') != std::string_view::npos;
 }
 
+bool isNegativeNumber(std::string_view text) {
+    if (!text.starts_with('-')) return false;
+    const auto number = parseNumber(text);
+    return number && *number < 0;
+}
+
 std::optional<std::int64_t> timecodeFrames(std::string_view text, double fps) {
     std::array<std::int64_t, 4> fields{};  // hours, minutes, seconds, frames
     std::size_t count = 0;
     while (true) {
-        const std::size_t separator = text.find_first_of(":;");
+        const auto isSeparator = [](char c) { return c == ':' || c == ';'; };
+        const auto separator = static_cast<std::size_t>(
+            std::find_if(text.begin(), text.end(), isSeparator) - text.begin());
         if (const auto number = parseInteger(text.substr(0, separator))) {
             if (count == fields.size()) return std::nullopt;
             fields[count++] = *number;
         }
-        if (separator == std::string_view::npos) break;
+        if (separator == text.size()) break;
         text.remove_prefix(separator + 1);
     }
     if (count != fields.size()) return std::nullopt;
@@ -64,15 +72,16 @@ std::optional<std::int64_t> cleanedFrames(std::string_view text, double fps) {
 }  // namespace
 
 std::string CommonTimelineXMLDelegate::timing(std::string_view value) const {
-    std::string text = cleanedXMLText(value);
-    if (text.empty() || holdsColon(text)) return text;
-    if (const auto number = parseNumber(text); number && *number < 0) return {};
+    const CleanedXMLText cleaned(value);
+    const std::string_view text = cleaned.view();
+    if (text.empty() || isNegativeNumber(text)) return {};
+    if (holdsColon(text)) return std::string(text);
     const auto count = cleanedFrames(text, fps);
-    return count ? timecode(*count) : text;
+    return count ? timecode(*count) : std::string(text);
 }
 
 std::optional<std::int64_t> CommonTimelineXMLDelegate::frames(std::string_view from) const {
-    return cleanedFrames(cleanedXMLText(from), fps);
+    return cleanedFrames(CleanedXMLText(from).view(), fps);
 }
 
 std::string CommonTimelineXMLDelegate::timecode(std::int64_t fromFrames) const {

@@ -62,7 +62,33 @@ std::int64_t countFrames(const Fields& fields, std::int64_t base) {
     return addChecked(multiplyChecked(totalSeconds, base), frames);
 }
 
+constexpr char digitOf(std::uint32_t value) {
+    return static_cast<char>('0' + value);
+}
+
+/// Appends a timecode of two digits a field, if the count makes one: nearly every count does, and
+/// 32-bit division is several times as fast.
+bool appendUsualTimecode(std::string& text, std::int64_t count, std::int64_t base, char separator) {
+    constexpr std::int64_t hundred = 100;
+    if (count < 0 || base > hundred || count >= hundred * 3600 * base) return false;
+    const auto total = static_cast<std::uint32_t>(count);
+    const auto divisor = static_cast<std::uint32_t>(base);
+    const std::uint32_t totalSeconds = total / divisor;
+    const std::uint32_t frames = total % divisor;
+    const std::uint32_t totalMinutes = totalSeconds / 60;
+    const std::uint32_t seconds = totalSeconds % 60;
+    const std::uint32_t hours = totalMinutes / 60;
+    const std::uint32_t minutes = totalMinutes % 60;
+    const std::array characters{digitOf(hours / 10),   digitOf(hours % 10),   ':',
+                                digitOf(minutes / 10), digitOf(minutes % 10), ':',
+                                digitOf(seconds / 10), digitOf(seconds % 10), separator,
+                                digitOf(frames / 10),  digitOf(frames % 10)};
+    text.append(characters.data(), characters.size());
+    return true;
+}
+
 void appendTimecode(std::string& text, std::int64_t count, std::int64_t base, char separator) {
+    if (appendUsualTimecode(text, count, base, separator)) return;
     const std::int64_t totalSeconds = count / base;
     appendPadded(text, totalSeconds / 3600, 2);
     text += ':';
@@ -88,11 +114,12 @@ std::string timecode(std::int64_t fromFrames, double fps, bool usesDropFrameSepa
     return text;
 }
 
-bool convertTimecodeInPlace(std::string& timecode, double from, double to) {
+TimecodeConversion::TimecodeConversion(double from, double to)
+    : fromBase(frameBase(from)), toBase(frameBase(to)) {}
+
+bool TimecodeConversion::convert(std::string& timecode) const {
     const auto fields = parseFields(timecode);
     if (!fields) return false;
-    const std::int64_t fromBase = frameBase(from);
-    const std::int64_t toBase = frameBase(to);
     const std::int64_t count = countFrames(*fields, fromBase);
     const std::int64_t converted = roundToInteger(
         static_cast<double>(count) / static_cast<double>(fromBase) * static_cast<double>(toBase));
@@ -104,7 +131,8 @@ bool convertTimecodeInPlace(std::string& timecode, double from, double to) {
 
 std::string convertTimecode(std::string_view timecode, double from, double to) {
     std::string converted(timecode);
-    convertTimecodeInPlace(converted, from, to);
+    // A text that is not a timecode asks nothing of the rates.
+    if (parseFields(timecode)) TimecodeConversion(from, to).convert(converted);
     return converted;
 }
 

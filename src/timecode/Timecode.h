@@ -25,8 +25,18 @@ std::string timecode(std::int64_t fromFrames, double fps, bool usesDropFrameSepa
 /// unchanged. Rounds to the nearest frame, halves away from zero.
 std::string convertTimecode(std::string_view timecode, double from, double to);
 
-/// Converts `timecode` in place and tells whether it was one.
-bool convertTimecodeInPlace(std::string& timecode, double from, double to);
+/// `convertTimecode` between two rates, prepared once for a long list of timecodes.
+class TimecodeConversion {
+  public:
+    TimecodeConversion(double from, double to);
+
+    /// Converts `timecode` in place and tells whether it was one.
+    bool convert(std::string& timecode) const;
+
+  private:
+    std::int64_t fromBase;
+    std::int64_t toBase;
+};
 
 /// The time between two timecodes, such as "00:00:10:00 (250 frames)"; never below zero. "-" when
 /// either is not a timecode.
