@@ -1,5 +1,6 @@
 #include "ui/HelpWindow.h"
 
+#include <QEvent>
 #include <QPlainTextEdit>
 #include <QVBoxLayout>
 
@@ -61,6 +62,14 @@ void HelpWindow::centre(const QRect& area, const QMargins& frame) {
     const QSize whole = size().grownBy(frame);
     move(area.left() + (area.width() - whole.width()) / 2,
          area.top() + (area.height() - whole.height()) / 2);
+}
+
+void HelpWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    // Not every window manager heeds that the window is not to be minimized.
+    if (event->type() == QEvent::WindowStateChange && isMinimized()) {
+        setWindowState(windowState() & ~Qt::WindowMinimized);
+    }
 }
 
 }  // namespace clipvane

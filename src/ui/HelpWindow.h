@@ -11,6 +11,9 @@ class HelpWindow : public QMainWindow {
 
     /// Puts the window, with the `frame` that it will get, into the middle of `area`.
     void centre(const QRect& area, const QMargins& frame);
+
+  protected:
+    void changeEvent(QEvent* event) override;
 };
 
 }  // namespace clipvane

@@ -51,7 +51,6 @@ void InspectorWindowController::showHelp() {
         // Both windows get the same frame, but only one has it yet.
         helpWindow->centre(mainWindow.screen()->availableGeometry(), frameOf(mainWindow));
     }
-    helpWindow->setWindowState(helpWindow->windowState() & ~Qt::WindowMinimized);
     helpWindow->show();
     helpWindow->raise();
     helpWindow->activateWindow();
