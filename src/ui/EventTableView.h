@@ -51,7 +51,7 @@ class EventTableView : public QTableView {
     void paintRow(QPainter& painter, int row, const QRect& dirty) const;
 
     QFocusFrame* focusFrame = nullptr;  ///< seen while the keyboard has led here
-    QStringListModel noRows;  ///< the vertical header's model
+    QStringListModel noRows;            ///< the vertical header's model
     bool fitting = false;
 };
 

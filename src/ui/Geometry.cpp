@@ -39,11 +39,6 @@ Rect panelContent(double width, double height) {
             std::max(height - 2 * panelMargin - panelTitleHeight, 0.0)};
 }
 
-Rect inset(const Rect& outer, double by) {
-    return {outer.x + by, outer.y + by, std::max(outer.width - 2 * by, 0.0),
-            std::max(outer.height - 2 * by, 0.0)};
-}
-
 double detailStackWidth(double contentWidth) {
     return std::max(contentWidth - 20, detailWidth);
 }

@@ -36,9 +36,6 @@ Rect panelContent(double width, double height);
 inline constexpr double panelMargin = 14;
 inline constexpr double panelTitleHeight = 24;
 
-/// `outer` without `margin` on each of its four sides.
-Rect inset(const Rect& outer, double margin);
-
 /// The stack of the detail panel: the title, the rows, the comments block, from the top. Its height
 /// is fixed; the comments block takes what the others leave.
 struct DetailStackLayout {

@@ -16,12 +16,11 @@ TEST(DetailRows, NothingSelected_ElevenDashesButTheRatesSource) {
     EXPECT_EQ(detailTitle(document, std::nullopt), "No event selected");
     EXPECT_THAT(
         detailRows(document, std::nullopt),
-        ElementsAre(DetailRow{"Clip Name", "-"}, DetailRow{"Reel ID", "-"},
-                    DetailRow{"Track", "-"}, DetailRow{"Source In", "-"},
-                    DetailRow{"Source Out", "-"}, DetailRow{"Source Dur", "-"},
-                    DetailRow{"Record In", "-"}, DetailRow{"Record Out", "-"},
-                    DetailRow{"Record Dur", "-"}, DetailRow{"FPS Source", "Default"},
-                    DetailRow{"Format", "-"}));
+        ElementsAre(DetailRow{"Clip Name", "-"}, DetailRow{"Reel ID", "-"}, DetailRow{"Track", "-"},
+                    DetailRow{"Source In", "-"}, DetailRow{"Source Out", "-"},
+                    DetailRow{"Source Dur", "-"}, DetailRow{"Record In", "-"},
+                    DetailRow{"Record Out", "-"}, DetailRow{"Record Dur", "-"},
+                    DetailRow{"FPS Source", "Default"}, DetailRow{"Format", "-"}));
 }
 
 TEST(DetailRows, EventSelected_ItsFieldsAndDurations) {
@@ -30,15 +29,15 @@ TEST(DetailRows, EventSelected_ItsFieldsAndDurations) {
     document.fps = 25;
     document.fpsSource = "File";
     EXPECT_EQ(detailTitle(document, 1), "Event 002: Clip 002");
-    EXPECT_THAT(detailRows(document, 1),
-                ElementsAre(DetailRow{"Clip Name", "Clip 002"}, DetailRow{"Reel ID", "R002"},
-                            DetailRow{"Track", "V"}, DetailRow{"Source In", "01:00:00:00"},
-                            DetailRow{"Source Out", "01:00:04:00"},
-                            DetailRow{"Source Dur", "00:00:04:00 (100 frames)"},
-                            DetailRow{"Record In", "02:00:00:00"},
-                            DetailRow{"Record Out", "02:00:04:00"},
-                            DetailRow{"Record Dur", "00:00:04:00 (100 frames)"},
-                            DetailRow{"FPS Source", "File"}, DetailRow{"Format", "EDL"}));
+    EXPECT_THAT(
+        detailRows(document, 1),
+        ElementsAre(DetailRow{"Clip Name", "Clip 002"}, DetailRow{"Reel ID", "R002"},
+                    DetailRow{"Track", "V"}, DetailRow{"Source In", "01:00:00:00"},
+                    DetailRow{"Source Out", "01:00:04:00"},
+                    DetailRow{"Source Dur", "00:00:04:00 (100 frames)"},
+                    DetailRow{"Record In", "02:00:00:00"}, DetailRow{"Record Out", "02:00:04:00"},
+                    DetailRow{"Record Dur", "00:00:04:00 (100 frames)"},
+                    DetailRow{"FPS Source", "File"}, DetailRow{"Format", "EDL"}));
 }
 
 TEST(DetailRows, StaleRow_AsWithoutSelection) {

@@ -36,22 +36,50 @@ TEST_P(MainLayoutTest, PlacesTheFourRegions) {
     expectNear(layout.rightPanel, row.right);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Sizes, MainLayoutTest,
-    testing::Values(
-        LayoutRow{"Smallest", 1180, 700, {16, 642, 1148, 42}, {16, 16, 1148, 20},
-                  {16, 48, 746, 582}, {774, 48, 390, 582}},
-        LayoutRow{"Initial", 1440, 860, {16, 802, 1408, 42}, {16, 16, 1408, 20},
-                  {16, 48, 973.6, 742}, {1001.6, 48, 422.4, 742}},
-        LayoutRow{"Wide", 2000, 1000, {16, 942, 1968, 42}, {16, 16, 1968, 20},
-                  {16, 48, 1486, 882}, {1514, 48, 470, 882}},
-        LayoutRow{"JustBelow1300", 1331, 860, {16, 802, 1299, 42}, {16, 16, 1299, 20},
-                  {16, 48, 897, 742}, {925, 48, 390, 742}},
-        LayoutRow{"TooNarrow", 31, 860, {16, 802, 0, 42}, {16, 16, 0, 20}, {16, 48, 0, 742},
-                  {28, 48, 390, 742}},
-        LayoutRow{"TooLow", 1440, 50, {16, -8, 1408, 42}, {16, 16, 1408, 20}, {16, 48, 973.6, 0},
-                  {1001.6, 48, 422.4, 0}}),
-    test::RowName());
+INSTANTIATE_TEST_SUITE_P(Sizes, MainLayoutTest,
+                         testing::Values(LayoutRow{"Smallest",
+                                                   1180,
+                                                   700,
+                                                   {16, 642, 1148, 42},
+                                                   {16, 16, 1148, 20},
+                                                   {16, 48, 746, 582},
+                                                   {774, 48, 390, 582}},
+                                         LayoutRow{"Initial",
+                                                   1440,
+                                                   860,
+                                                   {16, 802, 1408, 42},
+                                                   {16, 16, 1408, 20},
+                                                   {16, 48, 973.6, 742},
+                                                   {1001.6, 48, 422.4, 742}},
+                                         LayoutRow{"Wide",
+                                                   2000,
+                                                   1000,
+                                                   {16, 942, 1968, 42},
+                                                   {16, 16, 1968, 20},
+                                                   {16, 48, 1486, 882},
+                                                   {1514, 48, 470, 882}},
+                                         LayoutRow{"JustBelow1300",
+                                                   1331,
+                                                   860,
+                                                   {16, 802, 1299, 42},
+                                                   {16, 16, 1299, 20},
+                                                   {16, 48, 897, 742},
+                                                   {925, 48, 390, 742}},
+                                         LayoutRow{"TooNarrow",
+                                                   31,
+                                                   860,
+                                                   {16, 802, 0, 42},
+                                                   {16, 16, 0, 20},
+                                                   {16, 48, 0, 742},
+                                                   {28, 48, 390, 742}},
+                                         LayoutRow{"TooLow",
+                                                   1440,
+                                                   50,
+                                                   {16, -8, 1408, 42},
+                                                   {16, 16, 1408, 20},
+                                                   {16, 48, 973.6, 0},
+                                                   {1001.6, 48, 422.4, 0}}),
+                         test::RowName());
 
 TEST(DetailStack, OneLineTitle_CommentsTakeWhatIsLeft) {
     const DetailStackLayout layout = detailStackLayout(374.4, 27, 11);
@@ -92,10 +120,6 @@ TEST(FlippedRect, RoundsEdges_MarginsStayExact) {
     EXPECT_EQ(flipped(layout.status, 860), QRect(16, 824, 1408, 20));
     EXPECT_EQ(flipped(layout.leftPanel, 860), QRect(16, 70, 974, 742));
     EXPECT_EQ(flipped(layout.rightPanel, 860), QRect(1002, 70, 422, 742));
-}
-
-TEST(Inset, TakesTheMarginFromEachSide) {
-    expectNear(inset({0, 0, 620, 520}, 18), {18, 18, 584, 484});
 }
 
 }  // namespace
