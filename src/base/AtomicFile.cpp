@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
+#include <optional>
 
 #include "base/UUID.h"
 
@@ -33,18 +34,39 @@ int followLinks(std::filesystem::path& path) {
     return ELOOP;
 }
 
+/// The permissions of the regular file at `place`; nothing when nothing is there. Otherwise the
+/// error for `destination`, since nothing but a regular file is ever replaced.
+Result<std::optional<mode_t>> replacedMode(const std::filesystem::path& place,
+                                           const std::filesystem::path& destination) {
+    const auto failed = [&](int code) {
+        return tl::unexpected(fileError("written", destination, code));
+    };
+    struct stat status {};
+    if (::lstat(place.c_str(), &status) != 0) {
+        if (errno == ENOENT) return std::nullopt;
+        return failed(errno);
+    }
+    if (S_ISDIR(status.st_mode)) return failed(EISDIR);
+    if (!S_ISREG(status.st_mode)) {
+        return tl::unexpected(Error{"POSIX", EINVAL,
+                                    "The file \"" + displayName(destination) +
+                                        "\" could not be written: Not a regular file."});
+    }
+    return status.st_mode & permissionBits;
+}
+
 std::string procLink(int descriptor) {
     return "/proc/self/fd/" + std::to_string(descriptor);
 }
 
 }  // namespace
 
-AtomicFile::AtomicFile(std::filesystem::path destination, std::optional<mode_t> replacedMode)
-    : destination(std::move(destination)), replacedMode(replacedMode) {}
+AtomicFile::AtomicFile(std::filesystem::path destination, std::filesystem::path place)
+    : destination(std::move(destination)), place(std::move(place)) {}
 
 AtomicFile::AtomicFile(AtomicFile&& other) noexcept
     : destination(std::move(other.destination)),
-      replacedMode(other.replacedMode),
+      place(std::move(other.place)),
       file(std::move(other.file)),
       temporary(std::move(other.temporary)) {
     other.temporary.clear();
@@ -59,46 +81,35 @@ tl::unexpected<Error> AtomicFile::failed(int code) const {
 }
 
 Result<AtomicFile> AtomicFile::create(const std::filesystem::path& destination) {
-    const auto failed = [&](int code) {
-        return tl::unexpected(fileError("written", destination, code));
-    };
     std::filesystem::path place = destination;
-    if (const int code = followLinks(place)) return failed(code);
+    const int linkCode = followLinks(place);
+    AtomicFile file(destination, std::move(place));
+    if (linkCode != 0) return file.failed(linkCode);
 
-    std::optional<mode_t> replacedMode;
-    struct stat status {};
-    if (::stat(place.c_str(), &status) == 0) {
-        if (S_ISDIR(status.st_mode)) return failed(EISDIR);
-        if (!S_ISREG(status.st_mode)) {
-            return tl::unexpected(Error{"POSIX", EINVAL,
-                                        "The file \"" + displayName(destination) +
-                                            "\" could not be written: Not a regular file."});
-        }
-        replacedMode = status.st_mode & permissionBits;
-    } else if (errno != ENOENT) {
-        return failed(errno);
+    const auto replaced = replacedMode(file.place, destination);
+    if (!replaced) return tl::unexpected(replaced.error());
+    // Whoever may not read the old content may not read the new one while it is written either.
+    if (const int code = file.open(replaced->value_or(newFileMode) & newFileMode)) {
+        return file.failed(code);
     }
-
-    AtomicFile file(std::move(place), replacedMode);
-    if (const int code = file.open()) return failed(code);
     return file;
 }
 
 /// Opens a file without a name, which vanishes by itself if the process is killed, or a hidden one
 /// beside the destination where the system cannot do the first. Zero or an errno value.
-int AtomicFile::open() {
-    std::filesystem::path folder = destination.parent_path();
+int AtomicFile::open(mode_t mode) {
+    std::filesystem::path folder = place.parent_path();
     if (folder.empty()) folder = ".";
-    file = openFile(folder.c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, newFileMode);
+    file = openFile(folder.c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, mode);
     // Giving it a name later needs /proc.
     if (file.isOpen() && ::access(procLink(file.number()).c_str(), F_OK) == 0) return 0;
 
     UUIDGenerator generator;
-    temporary = folder / (".clipvane-" + generator.next().text());
-    file = openFile(temporary.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, newFileMode);
-    if (file.isOpen()) return 0;
-    temporary.clear();
-    return errno;
+    const std::filesystem::path name = folder / (".clipvane-" + generator.next().text());
+    file = openFile(name.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, mode);
+    if (!file.isOpen()) return errno;
+    temporary = name;
+    return 0;
 }
 
 Result<void> AtomicFile::write(std::string_view bytes) {
@@ -113,14 +124,17 @@ Result<void> AtomicFile::write(std::string_view bytes) {
 }
 
 Result<void> AtomicFile::commit() {
+    // Asked again: somebody may have put something else there meanwhile.
+    const auto replaced = replacedMode(place, destination);
+    if (!replaced) return tl::unexpected(replaced.error());
     // Some file systems have no permissions to set; the export does not fail for that.
-    if (replacedMode) static_cast<void>(::fchmod(file.number(), *replacedMode));
+    if (*replaced) static_cast<void>(::fchmod(file.number(), **replaced));
 
     while (::fsync(file.number()) != 0) {
         if (errno != EINTR) return failed(errno);
     }
-    if (temporary.empty() && !replacedMode) {
-        const int code = linkAt(destination);
+    if (temporary.empty() && !*replaced) {
+        const int code = linkAt(place);
         if (code == 0) return {};
         if (code != EEXIST) return failed(code);  // EEXIST: somebody else was faster; replace it
     }
@@ -128,7 +142,7 @@ Result<void> AtomicFile::commit() {
         if (const int code = linkTemporary()) return failed(code);
     }
     if (const int code = file.close()) return failed(code);
-    if (::rename(temporary.c_str(), destination.c_str()) != 0) return failed(errno);
+    if (::rename(temporary.c_str(), place.c_str()) != 0) return failed(errno);
     temporary.clear();
     return {};
 }
@@ -144,7 +158,7 @@ int AtomicFile::linkAt(const std::filesystem::path& name) {
 int AtomicFile::linkTemporary() {
     UUIDGenerator generator;
     const std::filesystem::path name =
-        destination.parent_path() / (".clipvane-" + generator.next().text());
+        place.parent_path() / (".clipvane-" + generator.next().text());
     if (const int code = linkAt(name)) return code;
     temporary = name;
     return 0;

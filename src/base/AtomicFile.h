@@ -3,7 +3,6 @@
 #include <sys/types.h>
 
 #include <filesystem>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -38,15 +37,15 @@ class AtomicFile {
     Result<void> commit();
 
   private:
-    AtomicFile(std::filesystem::path destination, std::optional<mode_t> replacedMode);
+    AtomicFile(std::filesystem::path destination, std::filesystem::path place);
 
-    int open();
+    int open(mode_t mode);
     int linkAt(const std::filesystem::path& name);
     int linkTemporary();
     tl::unexpected<Error> failed(int code) const;
 
-    std::filesystem::path destination;   ///< links resolved
-    std::optional<mode_t> replacedMode;  ///< permissions of the file to replace, if there is one
+    std::filesystem::path destination;  ///< as the caller named it
+    std::filesystem::path place;        ///< the same with its links resolved
     Descriptor file;
     std::filesystem::path temporary;  ///< the content's present name; empty while it has none
 };

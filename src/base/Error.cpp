@@ -14,7 +14,10 @@ Error fileError(std::string_view action, const std::filesystem::path& path, int 
 }
 
 std::string displayName(const std::filesystem::path& path) {
-    return replaceInvalidUTF8(path.filename().native());
+    std::string_view name = path.native();
+    while (name.size() > 1 && name.ends_with('/')) name.remove_suffix(1);
+    if (name != "/") name.remove_prefix(name.rfind('/') + 1);  // npos + 1 is 0
+    return replaceInvalidUTF8(name);
 }
 
 }  // namespace clipvane

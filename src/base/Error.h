@@ -23,7 +23,8 @@ using Result = tl::expected<Value, Error>;
 /// "The file "cut.edl" could not be read: Permission denied." for the action "read".
 Error fileError(std::string_view action, const std::filesystem::path& path, int code);
 
-/// The last component of `path` as text; bytes that are not valid UTF-8 become U+FFFD.
+/// The last component of `path` as text, slashes behind it left out; bytes that are not valid UTF-8
+/// become U+FFFD.
 std::string displayName(const std::filesystem::path& path);
 
 }  // namespace clipvane

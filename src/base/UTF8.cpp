@@ -16,7 +16,7 @@ const std::uint8_t* bytesOf(std::string_view text) {
     return reinterpret_cast<const std::uint8_t*>(text.data());
 }
 
-/// The first code point as above, but negative for an ill-formed sequence.
+/// The first code point of `text`, which is not empty; negative for an ill-formed sequence.
 UChar32 decodeFirst(std::string_view text, std::int32_t& length) {
     const std::uint8_t* bytes = bytesOf(text);
     const auto limit =
@@ -27,7 +27,7 @@ UChar32 decodeFirst(std::string_view text, std::int32_t& length) {
     return codePoint;
 }
 
-/// The number of leading ASCII bytes, looked at eight at a time.
+/// The number of leading ASCII bytes, looked at 32 at a time.
 std::size_t asciiPrefix(std::string_view text) {
     constexpr std::uint64_t highBits = 0x8080808080808080U;
     std::size_t position = 0;

@@ -2,13 +2,14 @@
 
 #include <nlohmann/json.hpp>
 
+#include "base/UTF8.h"
+
 namespace clipvane {
 namespace {
 
-/// Calls `field(key, text)` for the eleven text fields between "id" and "highlighted" or after it,
-/// and `flag` in its place, all in the order of the record.
-template <class Event, class Field, class Flag>
-void forEachFieldAfterID(Event& event, Field field, Flag flag) {
+/// Calls `field(key, value)` for the twelve fields behind "id", in the order of the record.
+template <class Event, class Field>
+void forEachFieldAfterID(Event& event, Field field) {
     field("eventNumber", event.eventNumber);
     field("clipName", event.clipName);
     field("reelID", event.reelID);
@@ -19,7 +20,7 @@ void forEachFieldAfterID(Event& event, Field field, Flag flag) {
     field("format", event.format);
     field("track", event.track);
     field("comments", event.comments);
-    flag("highlighted", event.highlighted);
+    field("highlighted", event.highlighted);
     field("rawText", event.rawText);
 }
 
@@ -28,8 +29,7 @@ void forEachFieldAfterID(Event& event, Field field, Flag flag) {
 std::string encodeJSON(const TimelineEvent& event) {
     nlohmann::ordered_json object;
     object["id"] = event.id.text();
-    const auto put = [&](const char* key, const auto& value) { object[key] = value; };
-    forEachFieldAfterID(event, put, put);
+    forEachFieldAfterID(event, [&](const char* key, const auto& value) { object[key] = value; });
     // A text that is not valid UTF-8, which no reader makes, must not lose the rest.
     return object.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
 }
@@ -40,14 +40,11 @@ Result<TimelineEvent> decodeJSON(std::string_view json) try {
     const auto id = UUID::parse(object.at("id").get_ref<const std::string&>());
     if (!id) return tl::unexpected(Error{"JSON", 0, "The value of \"id\" is not a UUID."});
     event.id = *id;
-    const auto take = [&](const char* key, auto& value) { object.at(key).get_to(value); };
-    const auto takeFlag = [&](const char* key, bool& value) {
-        value = object.at(key).get_ref<const bool&>();
-    };
-    forEachFieldAfterID(event, take, takeFlag);
+    // Neither a text nor a boolean is ever taken from a value of another type.
+    forEachFieldAfterID(event, [&](const char* key, auto& value) { object.at(key).get_to(value); });
     return event;
 } catch (const nlohmann::json::exception& error) {
-    return tl::unexpected(Error{"JSON", error.id, error.what()});
+    return tl::unexpected(Error{"JSON", error.id, replaceInvalidUTF8(error.what())});
 }
 
 }  // namespace clipvane

@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace clipvane {
+namespace clipvane::test {
 
 /// Names a parameterised test after its row's `name`.
 struct RowName {
@@ -14,4 +14,4 @@ struct RowName {
     }
 };
 
-}  // namespace clipvane
+}  // namespace clipvane::test

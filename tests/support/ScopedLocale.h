@@ -1,33 +1,25 @@
 #pragma once
 
 #include <clocale>
-#include <locale>
-#include <string>
 
-namespace clipvane {
+namespace clipvane::test {
 
-/// Makes the locale called `name` that of the process, for the C and the C++ library, for its life.
-/// Those made for the tests are found through LOCPATH, which the test run sets.
+/// Makes the locale called `name` that of the process for its life. Those made for the tests are
+/// found through LOCPATH, which the test run sets.
 class ScopedLocale {
   public:
-    explicit ScopedLocale(const char* name) : set(std::setlocale(LC_ALL, name) != nullptr) {
-        if (set) std::locale::global(std::locale(name));
-    }
+    explicit ScopedLocale(const char* name) : set(std::setlocale(LC_ALL, name) != nullptr) {}
     ScopedLocale(const ScopedLocale&) = delete;
     ScopedLocale& operator=(const ScopedLocale&) = delete;
-    ~ScopedLocale() {
-        std::locale::global(earlier);
-        std::setlocale(LC_ALL, "C");
-    }
+    ~ScopedLocale() { std::setlocale(LC_ALL, "C"); }
 
     bool isSet() const { return set; }
 
   private:
-    std::locale earlier;
     bool set;
 };
 
 /// The locales whose numbers or letter cases differ from those of "C".
 inline constexpr const char* localesOfTests[] = {"de_DE.UTF-8", "tr_TR.UTF-8"};
 
-}  // namespace clipvane
+}  // namespace clipvane::test

@@ -1,40 +1,45 @@
 #pragma once
 
+#include <gtest/gtest.h>
 #include <stdlib.h>
 #include <sys/stat.h>
 
 #include <algorithm>
 #include <filesystem>
-#include <stdexcept>
+#include <fstream>
+#include <iterator>
 #include <string>
 #include <string_view>
-#include <system_error>
 #include <vector>
 
-namespace clipvane {
+namespace clipvane::test {
 
-/// A new, empty folder that everybody may enter; it goes away, with all that is in it, at the end
-/// of its life.
+/// A folder of the test's own, gone with it. Everybody may enter it.
 class TemporaryFolder {
   public:
     TemporaryFolder() {
-        std::string name = std::filesystem::temp_directory_path() / "clipvane-test-XXXXXX";
-        if (::mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
+        std::string name =
+            (std::filesystem::temp_directory_path() / "clipvane-test-XXXXXX").string();
+        if (::mkdtemp(name.data()) == nullptr) ADD_FAILURE() << "no temporary folder";
         folder = name;
-        std::filesystem::permissions(folder, std::filesystem::perms{0777});
+        std::filesystem::permissions(folder, std::filesystem::perms(0755));
     }
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
     ~TemporaryFolder() {
         std::error_code ignored;
-        std::filesystem::permissions(folder, std::filesystem::perms{0777}, ignored);
         std::filesystem::remove_all(folder, ignored);
     }
 
-    const std::filesystem::path& path() const { return folder; }
     std::filesystem::path operator/(std::string_view name) const { return folder / name; }
+    const std::filesystem::path& path() const { return folder; }
 
-    /// The names of all that is in it, hidden ones too, sorted.
+    /// The number of entries, hidden ones included.
+    std::ptrdiff_t count() const {
+        return std::distance(std::filesystem::directory_iterator(folder), {});
+    }
+
+    /// The names of the entries, hidden ones included, sorted.
     std::vector<std::string> names() const {
         std::vector<std::string> names;
         for (const auto& entry : std::filesystem::directory_iterator(folder)) {
@@ -48,4 +53,20 @@ class TemporaryFolder {
     std::filesystem::path folder;
 };
 
-}  // namespace clipvane
+inline std::string contentOf(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+inline void writeContent(const std::filesystem::path& path, std::string_view content) {
+    std::ofstream(path, std::ios::binary) << content;
+}
+
+/// The permission bits of what is at `path`, links followed.
+inline unsigned modeOf(const std::filesystem::path& path) {
+    struct stat status {};
+    EXPECT_EQ(::stat(path.c_str(), &status), 0) << path;
+    return status.st_mode & 07777U;
+}
+
+}  // namespace clipvane::test

@@ -5,7 +5,7 @@
 
 #include "base/Fatal.h"
 
-namespace clipvane {
+namespace clipvane::test {
 
 /// While it lives, `fatal` throws a `Reason` instead of ending the program, for tests that
 /// meet far too many fatal cases to start a process for each.
@@ -26,4 +26,4 @@ class ThrowingFatal {
     FatalHandler earlier;
 };
 
-}  // namespace clipvane
+}  // namespace clipvane::test

@@ -12,20 +12,19 @@
 #include <sstream>
 
 #include "base/Descriptor.h"
-#include "support/Files.h"
 #include "support/RowName.h"
 #include "support/TemporaryFolder.h"
-#include "support/UnprivilegedUser.h"
+#include "support/WithoutPrivileges.h"
 #include "ui/LogFile.h"
 
-namespace clipvane {
+namespace clipvane::test {
 namespace {
 
 namespace fs = std::filesystem;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr uid_t ordinaryUser = 65534;  // whom UnprivilegedUser stands for
+constexpr uid_t ordinaryUser = 65534;  // whom WithoutPrivileges stands for
 constexpr uid_t somebodyElse = 65533;
 
 void giveTo(uid_t user, const fs::path& path) {
@@ -117,7 +116,7 @@ TEST_F(LogFile, Absent_IsCreatedWithTheLine) {
 }
 
 TEST_F(LogFile, Present_IsAppendedTo) {
-    putFile(log, "of an earlier run\n");
+    writeContent(log, "of an earlier run\n");
     append("one\n");
     append("two\nwith a line break\n");
     EXPECT_EQ(contentOf(log), "of an earlier run\none\ntwo\nwith a line break\n");
@@ -141,10 +140,10 @@ TEST_F(LogFile, TwoProcessesAtOnce_EveryLineStaysWhole) {
 }
 
 TEST_F(LogFile, ReadOnly_StaysAsItIs) {
-    putFile(log, "old\n");
+    writeContent(log, "old\n");
     fs::permissions(log, fs::perms{0444});
     if (::geteuid() == 0) giveTo(ordinaryUser, log);
-    const UnprivilegedUser user;
+    const WithoutPrivileges user;
     append("one\n");
     EXPECT_EQ(contentOf(log), "old\n");
     EXPECT_THAT(folder.names(), ElementsAre("test.log"));
@@ -152,7 +151,7 @@ TEST_F(LogFile, ReadOnly_StaysAsItIs) {
 
 TEST_F(LogFile, ReadOnlyFolder_NothingIsCreated) {
     fs::permissions(folder.path(), fs::perms{0555});
-    const UnprivilegedUser user;
+    const WithoutPrivileges user;
     append("one\n");
     EXPECT_THAT(folder.names(), IsEmpty());
 }
@@ -163,7 +162,7 @@ TEST_F(LogFile, MissingFolder_NothingHappens) {
 }
 
 TEST_F(LogFile, OwnLinkToAnOwnFile_IsFollowed) {
-    putFile(folder / "real.log", "old\n");
+    writeContent(folder / "real.log", "old\n");
     fs::create_symlink(folder / "real.log", log);
     append("one\n");
     EXPECT_EQ(contentOf(folder / "real.log"), "old\none\n");
@@ -174,7 +173,7 @@ TEST_F(LogFile, OwnRelativeLinks_AreFollowed) {
     fs::create_directory(folder / "inner");
     fs::create_symlink("inner/second", log);
     fs::create_symlink("../real.log", folder / "inner/second");
-    putFile(folder / "real.log", "old\n");
+    writeContent(folder / "real.log", "old\n");
     append("one\n");
     EXPECT_EQ(contentOf(folder / "real.log"), "old\none\n");
 }
@@ -232,7 +231,7 @@ class ForeignLog : public LogFile {
 };
 
 TEST_F(ForeignLog, FileOfAnotherUser_IsNotWritten) {
-    putFile(log, "theirs\n");
+    writeContent(log, "theirs\n");
     fs::permissions(log, fs::perms{0666});
     giveTo(somebodyElse, log);
     append("one\n");
@@ -240,7 +239,7 @@ TEST_F(ForeignLog, FileOfAnotherUser_IsNotWritten) {
 }
 
 TEST_F(ForeignLog, LinkOfAnotherUserToAnOwnFile_IsNotFollowed) {
-    putFile(folder / "mine", "mine\n");
+    writeContent(folder / "mine", "mine\n");
     fs::create_symlink("mine", log);
     giveTo(somebodyElse, log);
     append("one\n");
@@ -255,7 +254,7 @@ TEST_F(ForeignLog, DanglingLinkOfAnotherUser_NothingIsCreated) {
 }
 
 TEST_F(ForeignLog, OwnLinkToAFileOfAnotherUser_IsNotWritten) {
-    putFile(folder / "theirs", "theirs\n");
+    writeContent(folder / "theirs", "theirs\n");
     giveTo(somebodyElse, folder / "theirs");
     fs::create_symlink("theirs", log);
     append("one\n");
@@ -263,7 +262,7 @@ TEST_F(ForeignLog, OwnLinkToAFileOfAnotherUser_IsNotWritten) {
 }
 
 TEST_F(ForeignLog, OwnLinkToALinkOfAnotherUser_IsNotFollowed) {
-    putFile(folder / "mine", "mine\n");
+    writeContent(folder / "mine", "mine\n");
     fs::create_symlink("mine", folder / "theirs");
     giveTo(somebodyElse, folder / "theirs");
     fs::create_symlink("theirs", log);
@@ -272,4 +271,4 @@ TEST_F(ForeignLog, OwnLinkToALinkOfAnotherUser_IsNotFollowed) {
 }
 
 }  // namespace
-}  // namespace clipvane
+}  // namespace clipvane::test

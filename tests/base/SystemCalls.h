@@ -1,0 +1,51 @@
+#pragma once
+
+#include <functional>
+
+namespace clipvane::test {
+
+/// The system calls of the code under test that a test can make fail. Opening a file without a name
+/// (O_TMPFILE) counts apart from the other ways of opening.
+enum class SystemCall {
+    openWithoutName,
+    open,
+    read,
+    write,
+    fsync,
+    fchmod,
+    linkat,
+    rename,
+    close,
+};
+
+/// For its life, or for the given number of calls, `call` fails with `error` without doing its
+/// work.
+class Refusal {
+  public:
+    static constexpr int always = -1;
+
+    Refusal(SystemCall call, int error, int times = always);
+    Refusal(const Refusal&) = delete;
+    Refusal& operator=(const Refusal&) = delete;
+    ~Refusal();
+
+    /// How often the call was refused so far.
+    int count() const;
+
+  private:
+    SystemCall call;
+};
+
+/// For its life, `action` runs once, just before the next `call` does its work.
+class Interruption {
+  public:
+    Interruption(SystemCall call, std::function<void()> action);
+    Interruption(const Interruption&) = delete;
+    Interruption& operator=(const Interruption&) = delete;
+    ~Interruption();
+
+  private:
+    SystemCall call;
+};
+
+}  // namespace clipvane::test

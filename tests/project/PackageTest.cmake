@@ -1,0 +1,40 @@
+# Installs the logic into a folder of the test's own, builds examples/convert against it as another
+# program would, and converts the sample timeline with it.
+cmake_minimum_required(VERSION 3.25)
+
+function(run)
+    execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output
+                    ERROR_VARIABLE output)
+    if(NOT result EQUAL 0)
+        message(FATAL_ERROR "${ARGN}\nended with ${result}:\n${output}")
+    endif()
+    set(output "${output}" PARENT_SCOPE)
+endfunction()
+
+# A library with sanitizers needs a program with them.
+set(flags "")
+if(SANITIZERS)
+    set(flags -fsanitize=${SANITIZERS})
+endif()
+
+file(REMOVE_RECURSE ${WORK_DIR})
+file(MAKE_DIRECTORY ${WORK_DIR}/exports)
+run(${CMAKE_COMMAND} --install ${BUILD_DIR} --component core --prefix ${WORK_DIR}/prefix)
+run(${CMAKE_COMMAND} -S ${SOURCE_DIR}/examples/convert -B ${WORK_DIR}/build -G Ninja
+    -D CMAKE_PREFIX_PATH=${WORK_DIR}/prefix -D CMAKE_CXX_COMPILER=${CXX_COMPILER}
+    -D CMAKE_CXX_FLAGS=${flags})
+run(${CMAKE_COMMAND} --build ${WORK_DIR}/build)
+run(${WORK_DIR}/build/convert ${SOURCE_DIR}/examples/timelines/harbour.edl ${WORK_DIR}/exports)
+
+if(NOT output MATCHES "^8 events at 25 fps \\(File\\)\n")
+    message(FATAL_ERROR "convert said:\n${output}")
+endif()
+file(STRINGS ${WORK_DIR}/exports/harbour.csv rows)
+list(LENGTH rows count)
+if(NOT count EQUAL 9)
+    message(FATAL_ERROR "harbour.csv has ${count} lines, not 9")
+endif()
+file(READ ${WORK_DIR}/exports/harbour.edl edl)
+if(NOT edl MATCHES "\n008  B002C011 AA/V C        10:30:02:17 10:30:06:17 01:00:17:00 01:00:21:00\n")
+    message(FATAL_ERROR "harbour.edl lacks its last event:\n${edl}")
+endif()
