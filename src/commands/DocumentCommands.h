@@ -8,7 +8,9 @@
 #include <string_view>
 
 #include "base/Error.h"
+#include "base/UUID.h"
 #include "commands/Alert.h"
+#include "commands/LineEnds.h"
 #include "model/TimelineDocument.h"
 
 namespace clipvane {
@@ -32,7 +34,8 @@ class DocumentCommands {
     void exportEDL();
 
     /// Stores the comments field into the selected event. A text that the user has not touched
-    /// since it was shown is left alone: the field may show it less exactly than it is stored.
+    /// since it was shown is left alone: the field may show it less exactly than it is stored. Line
+    /// ends stay of the kind that all of the comment's were before it was typed in.
     void saveCurrentComment();
 
     /// The comments field's text has changed under the user's hands.
@@ -47,6 +50,14 @@ class DocumentCommands {
     using Writer = std::function<Result<void>(const std::filesystem::path& url)>;
 
     void saveFile(const std::string& defaultName, const Writer& writer);
+    void showEvents(std::size_t row);
+    TimelineEvent& selectedEvent(std::size_t row);
+    LineEnd lineEndFor(const TimelineEvent& event);
+
+    /// The kind of line end in the comment of the event `typedIn` before the first keystroke:
+    /// removing its last line end and undoing that must not change it.
+    LineEnd lineEnd = LineEnd::lineFeed;
+    std::optional<UUID> typedIn;
 
     // The toolkit's part.
 

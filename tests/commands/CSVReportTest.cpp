@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "commands/SampleEvents.h"
+#include "support/RowName.h"
 #include "support/TemporaryFolder.h"
 
 namespace clipvane::test {
@@ -110,7 +111,7 @@ INSTANTIATE_TEST_SUITE_P(
                    "\"prise no 7 \u00e9t\u00e9 \U0001F3AC\""},
         QuotingRow{"LongWithQuoteAtTheEnd", longText + "\"", "\"" + longText + "\"\"\""},
         QuotingRow{"LongWithLineFeedAtTheStart", "\n" + longText, "\" " + longText + "\""}),
-    [](const auto& row) { return row.param.name; });
+    RowName());
 
 /// Each text field in turn holds a comma, a quote and a line feed.
 TEST(CSVReport, EveryTextField_IsQuoted) {
@@ -184,7 +185,7 @@ TEST(WriteCSV, ManyChunks_FileHoldsTheWholeText) {
     const std::string text = csvText(document);
     EXPECT_GT(text.size(), 1'500'000U);
     EXPECT_TRUE(contentOf(folder / "report.csv") == text);
-    EXPECT_EQ(folder.count(), 1);
+    EXPECT_EQ(folder.names().size(), 1U);
 }
 
 TEST(WriteCSV, ExistingFile_IsReplacedWhole) {
@@ -193,7 +194,7 @@ TEST(WriteCSV, ExistingFile_IsReplacedWhole) {
     const TimelineDocument document;
     ASSERT_TRUE(writeCSV(document, folder / "report.csv"));
     EXPECT_EQ(contentOf(folder / "report.csv"), std::string(header) + "\n");
-    EXPECT_EQ(folder.count(), 1);
+    EXPECT_EQ(folder.names().size(), 1U);
 }
 
 }  // namespace

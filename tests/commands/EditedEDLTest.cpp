@@ -6,6 +6,7 @@
 #include <limits>
 
 #include "commands/SampleEvents.h"
+#include "support/RowName.h"
 #include "support/TemporaryFolder.h"
 
 namespace clipvane::test {
@@ -108,7 +109,7 @@ INSTANTIATE_TEST_SUITE_P(
                  "001  A001 V C        1:2:3;4 01:00:04:00 00:00:00:00 00:00:04:00\n" + sampleName},
         EventRow{"OwnNumber_IsNotUsed", changed([](auto& e) { e.eventNumber = "0815"; }),
                  sampleLine + sampleName}),
-    [](const auto& row) { return row.param.name; });
+    RowName());
 
 TEST(EditedEDL, SecondOfThreeRemoved_TheRestIsRenumbered) {
     TimelineDocument document;
@@ -148,7 +149,7 @@ TEST(WriteEDL, ManyChunks_FileHoldsTheWholeText) {
     const std::string text = edlText(document);
     EXPECT_GT(text.size(), 800'000U);
     EXPECT_TRUE(contentOf(folder / "cut.edl") == text);
-    EXPECT_EQ(folder.count(), 1);
+    EXPECT_EQ(folder.names().size(), 1U);
 }
 
 }  // namespace

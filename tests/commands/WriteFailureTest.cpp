@@ -8,6 +8,7 @@
 #include "commands/CSVReport.h"
 #include "commands/EditedEDL.h"
 #include "commands/SampleEvents.h"
+#include "support/RowName.h"
 #include "support/TemporaryFolder.h"
 #include "support/WithoutPrivileges.h"
 
@@ -40,7 +41,7 @@ TEST_P(WriteFailure, MissingFolder) {
     EXPECT_EQ(errorOf(folder / "nowhere/out.txt"),
               (Error{"POSIX", ENOENT,
                      "The file \"out.txt\" could not be written: No such file or directory."}));
-    EXPECT_EQ(folder.count(), 0);
+    EXPECT_EQ(folder.names().size(), 0U);
 }
 
 TEST_P(WriteFailure, FolderInTheFilesPlace) {
@@ -48,7 +49,7 @@ TEST_P(WriteFailure, FolderInTheFilesPlace) {
     EXPECT_EQ(
         errorOf(folder / "out.txt"),
         (Error{"POSIX", EISDIR, "The file \"out.txt\" could not be written: Is a directory."}));
-    EXPECT_EQ(folder.count(), 1);
+    EXPECT_EQ(folder.names().size(), 1U);
 }
 
 TEST_P(WriteFailure, FileInTheFoldersPlace) {
@@ -112,12 +113,12 @@ TEST_P(WriteFailure, TextBeyondTheFileSizeLimit_TheOldFileStays) {
     EXPECT_EQ(error, (Error{"POSIX", EFBIG,
                             "The file \"out.txt\" could not be written: File too large."}));
     EXPECT_EQ(contentOf(folder / "out.txt"), "old");
-    EXPECT_EQ(folder.count(), 1);
+    EXPECT_EQ(folder.names().size(), 1U);
 }
 
 INSTANTIATE_TEST_SUITE_P(Writers, WriteFailure,
                          testing::Values(Writer{"CSV", writeCSV}, Writer{"EDL", writeEDL}),
-                         [](const auto& writer) { return writer.param.name; });
+                         RowName());
 
 }  // namespace
 }  // namespace clipvane::test

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <string>
+
+#include "base/Error.h"
+#include "commands/Alert.h"
+#include "model/TimelineDocument.h"
+#include "model/TimelineParseResult.h"
+
+namespace clipvane {
+
+// What the commands tell the user and the log, word by word. Counts never change the words: it is
+// "1 events" too.
+
+// Opening a timeline.
+inline constexpr const char* openClickedLine = "Open Timeline clicked.";
+/// The log's line about a file that was read: its path as chosen, its rate as the shortest decimal
+/// that reads back to the same number, with a ".0" for whole numbers.
+std::string parsedLine(const TimelineParseResult& parsed, const std::filesystem::path& url);
+std::string openFailedLine(const Error& error);
+std::string loadedStatus(const TimelineDocument& document, const std::filesystem::path& url);
+Alert openFailedAlert(const Error& error);
+Alert checkFrameRateAlert();
+
+// The other commands.
+std::string convertedStatus(std::size_t timecodes, double from, double to);
+std::string removedStatus(std::size_t remaining);
+inline constexpr const char* copiedStatus = "Copied selected event information.";
+std::string exportedStatus(const std::filesystem::path& url);
+Alert exportFailedAlert(const Error& error);
+
+}  // namespace clipvane

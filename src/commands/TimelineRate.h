@@ -1,0 +1,15 @@
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+#include "model/TimelineEvent.h"
+
+namespace clipvane {
+
+/// Converts the four timecodes of each event from one rate to another, in frames per second, and
+/// tells how many of them were timecodes. The others stay as they are. Rates within 0.0001 of each
+/// other are the same: nothing is converted, and the count is zero.
+std::size_t convertTimecodes(std::vector<TimelineEvent>& events, double from, double to);
+
+}  // namespace clipvane

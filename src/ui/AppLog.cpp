@@ -1,0 +1,20 @@
+#include "ui/AppLog.h"
+
+#include <chrono>
+
+#include "ui/LogFile.h"
+
+namespace clipvane {
+
+const std::filesystem::path& AppLog::url() {
+    static const std::filesystem::path place = "/tmp/clipvane-native.log";
+    return place;
+}
+
+void AppLog::write(std::string_view message) {
+    if (const auto line = logLine(std::chrono::system_clock::now(), message)) {
+        appendLogLine(url(), *line);
+    }
+}
+
+}  // namespace clipvane

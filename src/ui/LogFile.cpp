@@ -1,0 +1,97 @@
+#include "ui/LogFile.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <system_error>
+
+#include "base/Descriptor.h"
+#include "base/Number.h"
+#include "base/UTF8.h"
+
+namespace clipvane {
+namespace {
+
+constexpr int mostLinks = 40;         // the kernel's own limit in following links
+constexpr mode_t newFileMode = 0666;  // less the process's file mode mask
+constexpr int openFlags = O_WRONLY | O_APPEND | O_CREAT  // one call, so that nothing can slip in
+                          | O_NOFOLLOW                   // a link that is not the user's own
+                          | O_NONBLOCK                   // a FIFO without a reader
+                          | O_NOCTTY | O_CLOEXEC;
+
+bool isOwn(const struct stat& status) {
+    return status.st_uid == ::geteuid();
+}
+
+/// The place that `path` leads to through the user's own links. It holds a regular file or nothing
+/// yet; no place when anything else is met.
+std::optional<std::filesystem::path> ownPlace(std::filesystem::path path) {
+    for (int followed = 0; followed <= mostLinks; ++followed) {
+        struct stat status {};
+        if (::lstat(path.c_str(), &status) != 0) {
+            return errno == ENOENT ? std::optional(path) : std::nullopt;
+        }
+        if (!isOwn(status)) return std::nullopt;
+        if (S_ISREG(status.st_mode)) return path;
+        if (!S_ISLNK(status.st_mode)) return std::nullopt;
+        std::error_code error;
+        const std::filesystem::path target = std::filesystem::read_symlink(path, error);
+        if (error) return std::nullopt;
+        path = path.parent_path() / target;  // an absolute target replaces the folder
+    }
+    return std::nullopt;
+}
+
+/// Opens the log for appending. A log that exists but is read-only stays as it is: what may not be
+/// opened for appending may not be replaced either.
+Descriptor openLog(const std::filesystem::path& path) {
+    const auto place = ownPlace(path);
+    if (!place) return {};
+    Descriptor file = openFile(place->c_str(), openFlags, newFileMode);
+    // What lies there may have changed since it was looked at.
+    struct stat status {};
+    if (!file.isOpen() || ::fstat(file.number(), &status) != 0) return {};
+    if (!S_ISREG(status.st_mode) || !isOwn(status)) return {};
+    return file;
+}
+
+}  // namespace
+
+std::optional<std::string> logLine(std::chrono::system_clock::time_point time,
+                                   std::string_view message) {
+    if (validUTF8Prefix(message) != message.size()) return std::nullopt;
+
+    const auto day = std::chrono::floor<std::chrono::days>(time);
+    const std::chrono::year_month_day date(day);
+    const std::chrono::hh_mm_ss clock(std::chrono::floor<std::chrono::seconds>(time - day));
+    std::string line = "[";
+    appendPadded(line, static_cast<int>(date.year()), 4);
+    line += '-';
+    appendPadded(line, static_cast<unsigned>(date.month()), 2);
+    line += '-';
+    appendPadded(line, static_cast<unsigned>(date.day()), 2);
+    line += ' ';
+    appendPadded(line, clock.hours().count(), 2);
+    line += ':';
+    appendPadded(line, clock.minutes().count(), 2);
+    line += ':';
+    appendPadded(line, clock.seconds().count(), 2);
+    line += " +0000] ";
+    line += message;
+    line += '\n';
+    return line;
+}
+
+void appendLogLine(const std::filesystem::path& path, std::string_view line) {
+    const Descriptor file = openLog(path);
+    while (file.isOpen() && !line.empty()) {
+        const ssize_t put = ::write(file.number(), line.data(), line.size());
+        if (put < 0 && errno == EINTR) continue;
+        if (put <= 0) return;
+        line.remove_prefix(static_cast<std::size_t>(put));
+    }
+}
+
+}  // namespace clipvane

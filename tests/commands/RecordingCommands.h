@@ -1,0 +1,85 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "commands/DocumentCommands.h"
+#include "timecode/FrameRate.h"
+
+namespace clipvane::test {
+
+/// Commands on a toolkit that writes down each call, and answers as the test wants. It behaves as
+/// the window does: a reloaded table has no selection, and a selected row shows its details.
+class RecordingCommands : public DocumentCommands {
+  public:
+    using DocumentCommands::documentModel;
+
+    // What the user does.
+    std::optional<std::filesystem::path> openPanelAnswer;
+    std::optional<std::filesystem::path> savePanelAnswer;
+    std::optional<std::size_t> selection;
+    std::optional<std::string> typedText;
+    std::optional<std::string> chosenTitle;
+
+    /// A rate change keeps the selection; other reloads end it.
+    bool selectionEndsWithReload = true;
+
+    std::vector<std::string> calls;
+    std::string status = "as before";
+    std::optional<std::string> pasteboard;
+    std::vector<Alert> alerts;
+
+  private:
+    std::optional<std::filesystem::path> runOpenPanel() override {
+        calls.push_back("open panel");
+        return openPanelAnswer;
+    }
+    std::optional<std::filesystem::path> runSavePanel(const std::string& defaultName) override {
+        calls.push_back("save panel: " + defaultName);
+        return savePanelAnswer;
+    }
+    void runAlert(const Alert& alert) override {
+        const bool isWarning = alert.style == Alert::Style::warning;
+        calls.push_back((isWarning ? "warning: " : "notice: ") + alert.message);
+        alerts.push_back(alert);
+    }
+    std::optional<std::size_t> selectedRow() const override { return selection; }
+    void selectRow(std::size_t row) override {
+        calls.push_back("select row " + std::to_string(row));
+        selection = row;
+        typedText.reset();
+    }
+    void reloadTable() override {
+        calls.push_back("reload table: " + std::to_string(documentModel.events.size()));
+        if (selectionEndsWithReload) selection.reset();
+    }
+    void setEmptyLabelHidden(bool hidden) override {
+        calls.push_back(hidden ? "hide empty label" : "show empty label");
+    }
+    void setStatus(const std::string& text) override {
+        calls.push_back("status: " + text);
+        status = text;
+    }
+    void refreshDetails() override {
+        calls.push_back("refresh details");
+        typedText.reset();
+    }
+    std::optional<std::string> editedComments() const override { return typedText; }
+    std::optional<std::string> selectedFPSTitle() const override { return chosenTitle; }
+    void syncFPSPopup() override {
+        calls.push_back("pop-up: " + formatFPS(documentModel.fps) + " fps, " +
+                        documentModel.fpsSource);
+    }
+    void setPasteboardText(const std::string& text) override {
+        calls.push_back("pasteboard");
+        pasteboard = text;
+    }
+    void writeLog(const std::string& message) override { calls.push_back("log: " + message); }
+    void whileBusy(const std::function<void()>& work) override {
+        calls.push_back("busy");
+        work();
+        calls.push_back("idle");
+    }
+};
+
+}  // namespace clipvane::test
