@@ -18,9 +18,10 @@ constexpr std::string_view eventLine =
 std::string lines(std::initializer_list<std::string_view> all, std::string_view newline = "\n") {
     std::string text;
     for (const auto line : all) {
-        if (line.data() != all.begin()->data()) text += newline;
         text += line;
+        text += newline;
     }
+    text.resize(text.size() - newline.size());
     return text;
 }
 

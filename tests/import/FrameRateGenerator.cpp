@@ -98,8 +98,10 @@ std::string frameDuration(Random& random) {
     return spelt(random, "frameDuration=") + quoted(random, seconds);
 }
 
-std::string fragment(Random& random) {
-    switch (random.below(4)) {
+constexpr std::size_t formCount = 4;
+
+std::string fragment(Random& random, std::size_t form) {
+    switch (form) {
         case 0:
             return namedRate(random);
         case 1:
@@ -115,8 +117,10 @@ std::string fragment(Random& random) {
 
 std::string generateFrameRateText(Random& random) {
     std::string text(random.below(20), '.');
+    const bool isMixed = random.oneIn(2);
+    const std::size_t onlyForm = random.below(formCount);
     for (std::size_t fragments = 1 + random.below(5); fragments > 0; --fragments) {
-        text += fragment(random);
+        text += fragment(random, isMixed ? random.below(formCount) : onlyForm);
         while (!random.oneIn(3)) text += random.pick(fillers);
         text.append(random.below(18), ' ');
     }
