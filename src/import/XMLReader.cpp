@@ -1,5 +1,6 @@
 #include <expat.h>
 
+#include <algorithm>
 #include <exception>
 #include <memory>
 #include <new>
@@ -12,8 +13,11 @@
 namespace clipvane {
 namespace {
 
-/// The parser counts in ints, and a piece that stays in the processor's cache is read faster.
-constexpr std::size_t pieceSize = std::size_t{1} << 18;
+// The parser counts in ints, and a piece that stays in the processor's cache is read faster. But of
+// a long comment or tag the parser starts anew with every piece, so these grow until one is
+// through.
+constexpr std::size_t smallestPiece = std::size_t{1} << 18;
+constexpr std::size_t largestPiece = std::size_t{1} << 28;
 
 /// One run of the parser over a document, calling back the delegate.
 class ParserRun {
@@ -30,11 +34,14 @@ class ParserRun {
     void parse(std::string_view data) {
         XML_Status status = XML_STATUS_OK;
         bool isFinal = false;
+        std::size_t pieceSize = smallestPiece;
         while (status == XML_STATUS_OK && !isFinal) {
             const std::string_view piece = data.substr(0, pieceSize);
             data.remove_prefix(piece.size());
             isFinal = data.empty();
+            hasProgressed = false;
             status = XML_Parse(parser.get(), piece.data(), static_cast<int>(piece.size()), isFinal);
+            pieceSize = hasProgressed ? smallestPiece : std::min(pieceSize * 2, largestPiece);
         }
         if (failure) std::rethrow_exception(failure);
         if (XML_GetErrorCode(parser.get()) == XML_ERROR_NO_MEMORY) throw std::bad_alloc();
@@ -46,6 +53,7 @@ class ParserRun {
     static void guarded(void* userData, Callback callback) noexcept {
         auto& run = *static_cast<ParserRun*>(userData);
         if (run.failure) return;
+        run.hasProgressed = true;
         try {
             callback(run.delegate);
         } catch (...) {
@@ -73,6 +81,7 @@ class ParserRun {
     CommonTimelineXMLDelegate& delegate;
     std::unique_ptr<XML_ParserStruct, decltype(&XML_ParserFree)> parser;
     std::exception_ptr failure;
+    bool hasProgressed = false;  ///< called back during the current piece
 };
 
 }  // namespace
