@@ -5,6 +5,7 @@
 #include <limits>
 #include <string>
 
+#include "import/Summary.h"
 #include "import/TimelineParser.h"
 #include "support/RowName.h"
 
@@ -19,16 +20,6 @@ TimelineEvent lastEvent(std::string_view xml) {
     auto events = eventsOf(xml);
     EXPECT_FALSE(events.empty()) << xml;
     return events.empty() ? TimelineEvent() : events.back();
-}
-
-/// All fields but the identifier, between bars.
-std::string summary(const TimelineEvent& e) {
-    std::string text;
-    for (const auto& field : {e.eventNumber, e.clipName, e.reelID, e.sourceIn, e.sourceOut,
-                              e.recordIn, e.recordOut, e.format, e.track, e.comments, e.rawText}) {
-        text += field + "|";
-    }
-    return text + (e.highlighted ? "yes" : "no");
 }
 
 // Events of the generic form.
