@@ -8,7 +8,6 @@
 namespace clipvane::test {
 namespace {
 
-using testing::Contains;
 using testing::SizeIs;
 
 struct TimelineRow {
