@@ -3,16 +3,19 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <stdlib.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <time.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <map>
 #include <sstream>
 
 #include "base/Descriptor.h"
 #include "support/RowName.h"
+#include "support/ScopedLocale.h"
 #include "support/TemporaryFolder.h"
 #include "support/WithoutPrivileges.h"
 #include "ui/LogFile.h"
@@ -71,6 +74,15 @@ TEST(LogLine, AnyTimeZone_StaysUTC) {
               "[1970-01-01 00:00:00 +0000] m\n");
     earlier != nullptr ? ::setenv("TZ", kept.c_str(), 1) : ::unsetenv("TZ");
     ::tzset();
+}
+
+TEST(LogLine, AnyLocale_GivesTheSameBytes) {
+    const auto time = std::chrono::system_clock::from_time_t(1794790232);
+    for (const char* name : localesOfTests) {
+        const ScopedLocale locale(name);
+        ASSERT_TRUE(locale.isSet()) << name << " is missing in LOCPATH; run the tests with ctest";
+        EXPECT_EQ(logLine(time, "m"), "[2026-11-16 00:50:32 +0000] m\n");
+    }
 }
 
 struct MessageRow {
@@ -154,6 +166,20 @@ TEST_F(LogFile, ReadOnlyFolder_NothingIsCreated) {
     const WithoutPrivileges user;
     append("one\n");
     EXPECT_THAT(folder.names(), IsEmpty());
+}
+
+TEST_F(LogFile, FileSizeLimit_NothingMoreIsWritten) {
+    const auto appendBeyondTheLimit = [&] {
+        std::signal(SIGXFSZ, SIG_IGN);
+        const rlimit limit{10, 10};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+        append("123456\n");
+        append("123456\n");
+        append("123456\n");
+        ::_exit(0);
+    };
+    EXPECT_EXIT(appendBeyondTheLimit(), testing::ExitedWithCode(0), "");
+    EXPECT_EQ(contentOf(log), "123456\n123");
 }
 
 TEST_F(LogFile, MissingFolder_NothingHappens) {
