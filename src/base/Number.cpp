@@ -101,28 +101,6 @@ std::optional<std::int64_t> parseInteger(std::string_view text) {
     return value;
 }
 
-std::int64_t addChecked(std::int64_t a, std::int64_t b) {
-    std::int64_t sum = 0;
-    if (__builtin_add_overflow(a, b, &sum)) fatal("a frame count exceeds 64 bits (addition)");
-    return sum;
-}
-
-std::int64_t subtractChecked(std::int64_t a, std::int64_t b) {
-    std::int64_t difference = 0;
-    if (__builtin_sub_overflow(a, b, &difference)) {
-        fatal("a frame count exceeds 64 bits (subtraction)");
-    }
-    return difference;
-}
-
-std::int64_t multiplyChecked(std::int64_t a, std::int64_t b) {
-    std::int64_t product = 0;
-    if (__builtin_mul_overflow(a, b, &product)) {
-        fatal("a frame count exceeds 64 bits (multiplication)");
-    }
-    return product;
-}
-
 std::int64_t roundToInteger(double value) {
     // 2^63 is the first double above the range; its negative is the range's lower end. Doubles of
     // that size are whole, so that rounding leads none across.

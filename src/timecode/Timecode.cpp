@@ -128,7 +128,7 @@ bool TimecodeConversion::convert(std::string& timecode) const {
     const std::int64_t count = countFrames(*fields, fromBase);
     const std::int64_t converted = roundToInteger(
         static_cast<double>(count) / static_cast<double>(fromBase) * static_cast<double>(toBase));
-    const bool dropFrame = std::ranges::find(timecode, dropFrameSeparator) != timecode.end();
+    const bool dropFrame = timecode.find(dropFrameSeparator) != std::string::npos;
     const char separator = dropFrame ? dropFrameSeparator : ':';
     const auto usual = usualTimecode(converted, toBase, separator);
     if (usual && timecode.size() == usual->size()) {
