@@ -1,0 +1,82 @@
+#include "ui/AlertDialog.h"
+
+#include <QAccessible>
+#include <QGridLayout>
+#include <QPainter>
+#include <QPushButton>
+
+#include "ui/Colours.h"
+#include "ui/Fonts.h"
+#include "ui/Text.h"
+#include "ui/TextLabel.h"
+
+namespace clipvane {
+namespace {
+
+constexpr int iconSize = 40;
+constexpr int textWidth = 330;
+constexpr int mostLines = 12;
+
+/// A white "i" on blue, or a dark "!" on amber.
+class AlertIcon : public QWidget {
+  public:
+    explicit AlertIcon(Alert::Style style) : style(style) { setFixedSize(iconSize, iconSize); }
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        const bool warns = style == Alert::Style::warning;
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(warns ? colours::warning : colours::accentHover);
+        painter.drawRoundedRect(rect(), 9, 9);
+        painter.setBrush(warns ? colours::window : colours::white);
+        const double stem = warns ? 9 : 17;
+        const double dot = warns ? 28 : 9.5;
+        painter.drawRoundedRect(QRectF(18, stem, 4, warns ? 15 : 15), 2, 2);
+        painter.drawEllipse(QPointF(20, dot + 2), 2.6, 2.6);
+    }
+
+  private:
+    Alert::Style style;
+};
+
+TextLabel* wrapped(const std::string& text, const QFont& font, const QColor& colour) {
+    auto* label = new TextLabel(toQt(text), font, colour);
+    label->setMaximumLines(mostLines);
+    label->setFixedSize(textWidth, label->heightForWidth(textWidth));
+    return label;
+}
+
+}  // namespace
+
+AlertDialog::AlertDialog(const Alert& alert, QWidget* parent) : QDialog(parent) {
+    setWindowTitle("Clipvane");
+    setAccessibleName(toQt(alert.message));
+    setAccessibleDescription(toQt(alert.information));
+
+    auto* button = new QPushButton("OK");
+    button->setFont(systemFont(14, QFont::Medium));
+    button->setMinimumWidth(76);
+    button->setDefault(true);
+    connect(button, &QPushButton::clicked, this, &QDialog::accept);
+
+    auto* layout = new QGridLayout(this);
+    layout->setContentsMargins(24, 24, 24, 20);
+    layout->setHorizontalSpacing(28);
+    layout->setVerticalSpacing(12);
+    layout->addWidget(new AlertIcon(alert.style), 0, 0, 2, 1, Qt::AlignTop);
+    layout->addWidget(wrapped(alert.message, systemFont(15, QFont::Bold), colours::white), 0, 1);
+    layout->addWidget(wrapped(alert.information, systemFont(13), colours::text), 1, 1);
+    layout->setRowMinimumHeight(2, 6);
+    layout->addWidget(button, 3, 1, Qt::AlignRight);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void AlertDialog::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    QAccessibleEvent alert(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+}  // namespace clipvane

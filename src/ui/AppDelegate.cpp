@@ -1,0 +1,11 @@
+#include "ui/AppDelegate.h"
+
+#include "ui/AppLog.h"
+
+namespace clipvane {
+
+void AppDelegate::applicationDidFinishLaunching() const {
+    AppLog::write("Application did finish launching.");
+}
+
+}  // namespace clipvane

@@ -1,0 +1,185 @@
+#include "ui/ClipvaneStyle.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QMessageBox>
+#include <QPainter>
+#include <QStyleFactory>
+#include <QStyleOption>
+
+#include "ui/Colours.h"
+#include "ui/ControlPainter.h"
+#include "ui/Palette.h"
+
+namespace clipvane {
+namespace {
+
+constexpr int controlHeight = 32;
+constexpr int controlPadding = 14;
+
+template <class Option>
+const Option& as(const QStyleOption* option) {
+    return *static_cast<const Option*>(option);
+}
+
+}  // namespace
+
+ClipvaneStyle::ClipvaneStyle() : QProxyStyle(QStyleFactory::create("Fusion")) {
+    setObjectName("Clipvane");
+}
+
+QPalette ClipvaneStyle::standardPalette() const {
+    return darkPalette();
+}
+
+void ClipvaneStyle::polish(QWidget* widget) {
+    QProxyStyle::polish(widget);
+    if (qobject_cast<QAbstractButton*>(widget) || qobject_cast<QComboBox*>(widget) ||
+        qobject_cast<QHeaderView*>(widget)) {
+        widget->setAttribute(Qt::WA_Hover);
+    }
+    // A file's name in the toolkit's own question may look like markup.
+    if (auto* box = qobject_cast<QMessageBox*>(widget)) box->setTextFormat(Qt::PlainText);
+}
+
+void ClipvaneStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
+                                  QPainter* painter, const QWidget* widget) const {
+    switch (element) {
+        case PE_PanelButtonCommand:
+            return paintControl(
+                *painter, *option,
+                as<QStyleOptionButton>(option).features & QStyleOptionButton::DefaultButton);
+        case PE_PanelButtonTool:
+            if (option->state & (State_MouseOver | State_Sunken | State_On | State_HasFocus)) {
+                paintControl(*painter, *option, false);
+            }
+            return;
+        case PE_FrameFocusRect:
+        case PE_FrameDefaultButton:
+        case PE_FrameStatusBarItem:
+        case PE_PanelScrollAreaCorner:
+            return;  // the controls show the focus themselves
+        case PE_PanelLineEdit:
+            return paintField(*painter, *option, option->palette.color(QPalette::Base));
+        case PE_FrameLineEdit:
+            return;
+        case PE_Frame:
+            return paintField(*painter, *option, option->palette.color(QPalette::Base));
+        case PE_PanelTipLabel:
+        case PE_PanelMenu:
+            return paintBox(*painter, option->rect, 0, colours::menu, colours::menuEdge);
+        case PE_FrameMenu:
+            return;
+        default:
+            QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+}
+
+void ClipvaneStyle::drawControl(ControlElement element, const QStyleOption* option,
+                                QPainter* painter, const QWidget* widget) const {
+    switch (element) {
+        case CE_HeaderSection:
+            return drawHeaderSection(as<QStyleOptionHeader>(option), *painter);
+        case CE_HeaderLabel:
+            return drawHeaderLabel(as<QStyleOptionHeader>(option), *painter);
+        case CE_HeaderEmptyArea:
+            return painter->fillRect(option->rect, colours::tableHeader);
+        case CE_MenuItem:
+            return drawMenuItem(as<QStyleOptionMenuItem>(option), *painter);
+        case CE_MenuEmptyArea:
+            return painter->fillRect(option->rect, colours::menu);
+        case CE_FocusFrame:
+            return paintFocusRing(*painter, option->rect, 4);
+        default:
+            QProxyStyle::drawControl(element, option, painter, widget);
+    }
+}
+
+void ClipvaneStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                       QPainter* painter, const QWidget* widget) const {
+    if (control == CC_ComboBox && !as<QStyleOptionComboBox>(option).editable) {
+        drawComboBox(as<QStyleOptionComboBox>(option), *painter);
+    } else if (control == CC_ScrollBar) {
+        drawScrollBar(as<QStyleOptionSlider>(option), *painter, widget);
+    } else {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+    }
+}
+
+QSize ClipvaneStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
+                                      const QSize& size, const QWidget* widget) const {
+    switch (type) {
+        case CT_PushButton: {
+            const auto& button = as<QStyleOptionButton>(option);
+            const int width = button.fontMetrics.horizontalAdvance(button.text);
+            const int icon = button.icon.isNull() ? 0 : button.iconSize.width() + 4;
+            return {width + icon + 2 * controlPadding,
+                    std::max(controlHeight, button.fontMetrics.height() + 8)};
+        }
+        case CT_ComboBox: {
+            const QSize usual = QProxyStyle::sizeFromContents(type, option, size, widget);
+            return {std::max(size.width() + 52, 100), std::max(usual.height(), controlHeight)};
+        }
+        case CT_MenuItem: {
+            const auto& item = as<QStyleOptionMenuItem>(option);
+            if (item.menuItemType == QStyleOptionMenuItem::Separator) return {size.width(), 9};
+            return {size.width() + 48, 30};
+        }
+        default:
+            return QProxyStyle::sizeFromContents(type, option, size, widget);
+    }
+}
+
+int ClipvaneStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
+                               const QWidget* widget) const {
+    switch (metric) {
+        case PM_ScrollBarExtent:
+            return 12;
+        case PM_ScrollBarSliderMin:
+            return 36;
+        case PM_ScrollView_ScrollBarSpacing:
+        case PM_ScrollView_ScrollBarOverlap:
+        case PM_ButtonShiftHorizontal:
+        case PM_ButtonShiftVertical:
+            return 0;
+        case PM_DefaultFrameWidth:
+            return 3;
+        case PM_FocusFrameHMargin:
+        case PM_FocusFrameVMargin:
+            return 3;
+        case PM_HeaderMargin:
+            return 8;
+        case PM_MenuPanelWidth:
+            return 1;
+        case PM_MenuVMargin:
+        case PM_MenuHMargin:
+            return 5;
+        case PM_ToolTipLabelFrameWidth:
+            return 6;
+        default:
+            return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+}
+
+int ClipvaneStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                             QStyleHintReturn* returnData) const {
+    switch (hint) {
+        case SH_ComboBox_Popup:
+            return 1;
+        case SH_ComboBox_AllowWheelScrolling:
+            return 0;
+        case SH_ToolTipLabel_Opacity:
+            return 255;
+        case SH_EtchDisabledText:
+        case SH_ScrollView_FrameOnlyAroundContents:
+        case SH_DialogButtonBox_ButtonsHaveIcons:
+            return 0;
+        case SH_ScrollBar_LeftClickAbsolutePosition:
+            return 0;
+        default:
+            return QProxyStyle::styleHint(hint, option, widget, returnData);
+    }
+}
+
+}  // namespace clipvane

@@ -1,0 +1,32 @@
+#include "ui/CommentsBlockView.h"
+
+#include "ui/Colours.h"
+#include "ui/FlippedRect.h"
+#include "ui/Fonts.h"
+#include "ui/TextLabel.h"
+
+namespace clipvane {
+
+CommentsBlockView::CommentsBlockView(CommentsView* textView, QWidget* parent)
+    : QWidget(parent),
+      titleLabel(
+          new TextLabel("Comments", systemFont(15, QFont::DemiBold), colours::secondaryText, this)),
+      textView(textView) {
+    resize(sizeHint());
+    textView->setParent(this);
+    textView->show();
+    titleLabel->setBuddy(textView);
+}
+
+QSize CommentsBlockView::sizeHint() const {
+    return {static_cast<int>(detailWidth), static_cast<int>(commentsBlockHeight)};
+}
+
+void CommentsBlockView::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    const CommentsBlockLayout places = commentsBlockLayout(width(), height());
+    titleLabel->setGeometry(flipped(places.title, height()));
+    textView->setGeometry(flipped(places.scroll, height()));
+}
+
+}  // namespace clipvane

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QPlainTextEdit>
+#include <optional>
+#include <string>
+
+#include "base/UUID.h"
+
+namespace clipvane {
+
+/// The editor of an event's comment: plain text, and nothing that the user did not type changes.
+class CommentsView : public QPlainTextEdit {
+  public:
+    explicit CommentsView(QWidget* parent = nullptr);
+
+    /// Shows the comment of the event `id` for editing. Shown already, it stays as it is, with all
+    /// that can be undone; another event's starts afresh.
+    void showComments(const UUID& id, const std::string& comments);
+    /// Shows nothing, not to be edited.
+    void showNothing();
+
+    /// True once the user has changed the text since it was shown.
+    bool isEdited() const;
+    /// The text as UTF-8, character for character, with line feeds between its lines.
+    std::string comments() const;
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    QMimeData* createMimeDataFromSelection() const override;
+
+  private:
+    void setText(const QString& text);
+
+    std::optional<UUID> shownEvent;
+    int shownRevision = 0;
+};
+
+}  // namespace clipvane

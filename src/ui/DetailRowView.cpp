@@ -1,0 +1,40 @@
+#include "ui/DetailRowView.h"
+
+#include "ui/Colours.h"
+#include "ui/FlippedRect.h"
+#include "ui/Fonts.h"
+#include "ui/TextLabel.h"
+
+namespace clipvane {
+
+DetailRowView::DetailRowView(const QString& label, const QString& value, const QColor& valueColor,
+                             QWidget* parent)
+    : QWidget(parent),
+      keyLabel(new TextLabel(label, systemFont(14, QFont::DemiBold), colours::secondaryText, this)),
+      valueLabel(new TextLabel({}, monospacedFont(17), valueColor, this)) {
+    resize(static_cast<int>(detailWidth), static_cast<int>(detailRowHeight));
+    valueLabel->setElideMode(Qt::ElideMiddle);
+    keyLabel->setBuddy(valueLabel);
+    setValue(value);
+}
+
+void DetailRowView::setValue(const QString& value) {
+    const QString shown = value.isEmpty() ? QStringLiteral("-") : value;
+    if (valueLabel->text() != shown) valueLabel->setText(shown);
+}
+
+QSize DetailRowView::sizeHint() const {
+    return {static_cast<int>(detailWidth), static_cast<int>(detailRowHeight)};
+}
+
+void DetailRowView::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    const DetailRowLayout places = detailRowLayout(width());
+    keyLabel->setGeometry(flipped(places.key, height()));
+    valueLabel->setGeometry(flipped(places.value, height()));
+    const int baseline = valueLabel->fontMetrics().ascent();
+    valueLabel->setBaseline(baseline);
+    keyLabel->setBaseline(valueLabel->y() + baseline - keyLabel->y());
+}
+
+}  // namespace clipvane

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QWidget>
+#include <vector>
+
+#include "ui/DetailRows.h"
+
+namespace clipvane {
+
+class CommentsBlockView;
+class DetailRowView;
+class TextLabel;
+
+/// The content of the detail panel: the title, the rows of the moment, the comments block.
+class DetailStackView : public QWidget {
+  public:
+    TextLabel* const detailTitle;
+
+    explicit DetailStackView(QWidget* parent = nullptr);
+
+    void setCommentsBlock(CommentsBlockView* block);
+    void setTitle(const QString& text);
+    /// Puts `rows` between the title and the comments block, in place of those before.
+    void insertDetailRows(const std::vector<DetailRow>& rows);
+
+    const std::vector<DetailRowView*>& rowViews() const { return views; }
+
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+  private:
+    bool showsKeys(const std::vector<DetailRow>& rows) const;
+    void layout();
+
+    CommentsBlockView* commentsBlock = nullptr;
+    std::vector<DetailRowView*> views;
+};
+
+}  // namespace clipvane

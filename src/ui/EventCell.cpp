@@ -1,0 +1,53 @@
+#include "ui/EventCell.h"
+
+#include <QAbstractItemView>
+#include <QFontMetrics>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QToolTip>
+
+#include "ui/EventTableView.h"
+#include "ui/Fonts.h"
+#include "ui/Text.h"
+
+namespace clipvane {
+
+EventCell::EventCell(QObject* parent)
+    : QStyledItemDelegate(parent), labelFont(monospacedFont(14, QFont::Medium)) {}
+
+QString EventCell::shownText(const QModelIndex& index, int width) const {
+    return QFontMetrics(labelFont).elidedText(displayLine(index.data().toString()), Qt::ElideMiddle,
+                                              width - 2 * padding);
+}
+
+void EventCell::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                      const QModelIndex& index) const {
+    const QFontMetrics metrics(labelFont);
+    const QRect rect = option.rect;
+    const int y = rect.top() + (rect.height() - metrics.height()) / 2 + metrics.ascent();
+    painter->setFont(labelFont);
+    painter->setPen(index.data(Qt::ForegroundRole).value<QColor>());
+    painter->drawText(QPoint(rect.left() + padding, y), shownText(index, rect.width()));
+}
+
+QSize EventCell::sizeHint(const QStyleOptionViewItem&, const QModelIndex& index) const {
+    const QString line = displayLine(index.data().toString());
+    return {QFontMetrics(labelFont).horizontalAdvance(line) + 2 * padding + 1,
+            EventTableView::rowHeight};
+}
+
+bool EventCell::helpEvent(QHelpEvent* event, QAbstractItemView* view,
+                          const QStyleOptionViewItem& option, const QModelIndex& index) {
+    if (event->type() != QEvent::ToolTip) {
+        return QStyledItemDelegate::helpEvent(event, view, option, index);
+    }
+    const QString text = index.data().toString();
+    if (index.isValid() && shownText(index, option.rect.width()) != displayLine(text)) {
+        QToolTip::showText(event->globalPos(), toolTipText(text), view->viewport(), option.rect);
+    } else {
+        QToolTip::hideText();
+    }
+    return true;
+}
+
+}  // namespace clipvane

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QStyledItemDelegate>
+
+namespace clipvane {
+
+/// Paints one field of an event in its column's colour, a long text without its middle. Shows the
+/// whole text as a tool tip where it does not fit.
+class EventCell : public QStyledItemDelegate {
+  public:
+    static constexpr int padding = 8;  ///< on the left and on the right
+
+    explicit EventCell(QObject* parent = nullptr);
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override;
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                   const QModelIndex& index) override;
+
+    const QFont& font() const { return labelFont; }
+    /// The text as a cell `width` wide shows it.
+    QString shownText(const QModelIndex& index, int width) const;
+
+  private:
+    QFont labelFont;
+};
+
+}  // namespace clipvane

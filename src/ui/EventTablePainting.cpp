@@ -1,0 +1,38 @@
+#include <QHeaderView>
+#include <QPaintEvent>
+#include <QPainter>
+
+#include "ui/Colours.h"
+#include "ui/EventTableView.h"
+
+namespace clipvane {
+
+void EventTableView::paintRow(QPainter& painter, int row, const QRect& dirty) const {
+    const QRect area(0, row * rowHeight - verticalOffset(), viewport()->width(), rowHeight);
+    const QRect touched = area & dirty;
+    const HighlightRowView rowView = rowViewForRow(row);
+    rowView.drawBackground(painter, touched);
+    if (selectionModel()->isRowSelected(row)) rowView.drawSelection(painter, touched);
+
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    for (int column = 0; column < model()->columnCount(); ++column) {
+        const QModelIndex index = model()->index(row, column);
+        option.rect = visualRect(index);
+        if (option.rect.intersects(dirty)) itemDelegate()->paint(&painter, option, index);
+    }
+}
+
+void EventTableView::paintEvent(QPaintEvent* event) {
+    QPainter painter(viewport());
+    const QRect dirty = event->rect();
+    painter.fillRect(dirty, colours::table);
+    if (model() == nullptr) return;
+    for (int row = firstRowIn(dirty); row <= lastRowIn(dirty); ++row) paintRow(painter, row, dirty);
+    for (int column = 0; column < model()->columnCount(); ++column) {
+        const int x = columnViewportPosition(column) + columnWidth(column) - 1;
+        painter.fillRect(QRect(x, dirty.top(), 1, dirty.height()), colours::tableGrid);
+    }
+}
+
+}  // namespace clipvane

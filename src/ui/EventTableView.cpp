@@ -1,0 +1,256 @@
+#include "ui/EventTableView.h"
+
+#include <QAbstractButton>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <algorithm>
+
+#include "ui/EventCell.h"
+#include "ui/EventColumn.h"
+#include "ui/EventTableModel.h"
+#include "ui/Fonts.h"
+
+namespace clipvane {
+namespace {
+
+int narrowest(int column) {
+    return eventColumns()[static_cast<std::size_t>(column)].width;
+}
+
+}  // namespace
+
+EventTableView::EventTableView(QWidget* parent) : QTableView(parent) {
+    setAccessibleName("Event Viewer");
+    setFrameShape(QFrame::NoFrame);
+    setItemDelegate(new EventCell(this));
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setTabKeyNavigation(false);
+    setVerticalScrollMode(ScrollPerPixel);
+    setHorizontalScrollMode(ScrollPerPixel);
+    setShowGrid(false);
+    verticalHeader()->hide();
+    if (auto* corner = findChild<QAbstractButton*>()) corner->hide();
+
+    QHeaderView& header = *horizontalHeader();
+    header.setAccessibleName("Event fields");
+    header.setFont(systemFont(12, QFont::DemiBold));
+    header.setFixedHeight(headerHeight);
+    header.setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    header.setHighlightSections(false);
+    header.setSectionsClickable(false);
+    header.setMinimumSectionSize(narrowest(0));
+    header.setResizeContentsPrecision(0);
+    connect(&header, &QHeaderView::sectionResized, this,
+            [this](int column, int, int width) { keepMinimumWidth(column, width); });
+}
+
+void EventTableView::setModel(QAbstractItemModel* model) {
+    QTableView::setModel(model);
+    verticalHeader()->setModel(&noRows);
+    fitting = true;
+    for (int column = 0; column < model->columnCount(); ++column) {
+        setColumnWidth(column, narrowest(column));
+    }
+    fitting = false;
+    const auto layOut = [this] {
+        updateGeometries();
+        viewport()->update();
+    };
+    connect(model, &QAbstractItemModel::rowsRemoved, this, layOut);
+    connect(model, &QAbstractItemModel::modelReset, this, layOut);
+}
+
+int EventTableView::rowCount() const {
+    return model() != nullptr ? model()->rowCount() : 0;
+}
+
+int EventTableView::verticalOffset() const {
+    return verticalScrollBar()->value();
+}
+
+HighlightRowView EventTableView::rowViewForRow(int row) const {
+    HighlightRowView view{.isMarked = false, .isAlternate = row % 2 != 0};
+    if (row >= 0 && row < rowCount()) {
+        view.isMarked = model()->index(row, 0).data(EventTableModel::highlightedRole).toBool();
+    }
+    return view;
+}
+
+// Places
+
+QRect EventTableView::visualRect(const QModelIndex& index) const {
+    if (!index.isValid() || index.model() != model()) return {};
+    return {columnViewportPosition(index.column()), index.row() * rowHeight - verticalOffset(),
+            columnWidth(index.column()), rowHeight};
+}
+
+QModelIndex EventTableView::indexAt(const QPoint& point) const {
+    if (model() == nullptr) return {};
+    const int y = point.y() + verticalOffset();
+    const int column = columnAt(point.x());
+    return y < 0 || column < 0 ? QModelIndex() : model()->index(y / rowHeight, column);
+}
+
+int EventTableView::firstRowIn(const QRect& area) const {
+    return std::max(area.top() + verticalOffset(), 0) / rowHeight;
+}
+
+int EventTableView::lastRowIn(const QRect& area) const {
+    return std::min((area.bottom() + verticalOffset()) / rowHeight, rowCount() - 1);
+}
+
+void EventTableView::scrollTo(const QModelIndex& index, ScrollHint hint) {
+    if (!index.isValid()) return;
+    const int top = index.row() * rowHeight;
+    const int page = viewport()->height();
+    QScrollBar& bar = *verticalScrollBar();
+    if (hint == PositionAtCenter) {
+        bar.setValue(top - (page - rowHeight) / 2);
+    } else if (hint == PositionAtTop || top < bar.value() || page < rowHeight) {
+        bar.setValue(top);
+    } else if (hint == PositionAtBottom || top + rowHeight > bar.value() + page) {
+        bar.setValue(top + rowHeight - page);
+    }
+}
+
+void EventTableView::updateGeometries() {
+    QHeaderView& header = *horizontalHeader();
+    setViewportMargins(0, headerHeight, 0, 0);
+    const QRect area = viewport()->geometry();
+    header.setGeometry(area.left(), area.top() - headerHeight, area.width(), headerHeight);
+    fitLastColumn();
+
+    QScrollBar& vertical = *verticalScrollBar();
+    vertical.setPageStep(area.height());
+    vertical.setSingleStep(rowHeight);
+    vertical.setRange(0, std::max(rowCount() * rowHeight - area.height(), 0));
+    QScrollBar& horizontal = *horizontalScrollBar();
+    horizontal.setPageStep(area.width());
+    horizontal.setSingleStep(rowHeight);
+    horizontal.setRange(0, std::max(header.length() - area.width(), 0));
+    header.setOffset(horizontal.value());
+    QAbstractItemView::updateGeometries();
+}
+
+// Columns
+
+void EventTableView::keepMinimumWidth(int column, int width) {
+    if (fitting) return;
+    fitting = true;
+    setColumnWidth(column, std::max(width, narrowest(column)));
+    fitting = false;
+    updateGeometries();
+}
+
+void EventTableView::fitLastColumn() {
+    if (fitting || model() == nullptr) return;
+    const int last = model()->columnCount() - 1;
+    const int rest = viewport()->width() - (horizontalHeader()->length() - columnWidth(last));
+    fitting = true;
+    setColumnWidth(last, std::max(rest, narrowest(last)));
+    fitting = false;
+}
+
+int EventTableView::sizeHintForColumn(int column) const {
+    if (model() == nullptr) return -1;
+    int width = narrowest(column);
+    const QRect area = viewport()->rect();
+    for (int row = firstRowIn(area); row <= lastRowIn(area); ++row) {
+        width = std::max(width, itemDelegate()->sizeHint({}, model()->index(row, column)).width());
+    }
+    return width;
+}
+
+// Selection
+
+QModelIndex EventTableView::moveCursor(CursorAction action, Qt::KeyboardModifiers) {
+    const int last = rowCount() - 1;
+    if (last < 0) return {};
+    const QModelIndex current = currentIndex();
+    if (!current.isValid()) {
+        return model()->index(action == MoveEnd || action == MoveUp ? last : 0, 0);
+    }
+    const int page = std::max(viewport()->height() / rowHeight, 1);
+    int row = current.row();
+    int column = current.column();
+    switch (action) {
+        case MoveUp:
+            row -= 1;
+            break;
+        case MoveDown:
+            row += 1;
+            break;
+        case MovePageUp:
+            row -= page;
+            break;
+        case MovePageDown:
+            row += page;
+            break;
+        case MoveHome:
+            row = 0;
+            break;
+        case MoveEnd:
+            row = last;
+            break;
+        case MoveLeft:
+            column -= 1;
+            break;
+        case MoveRight:
+            column += 1;
+            break;
+        case MoveNext:
+        case MovePrevious:
+            break;
+    }
+    return model()->index(std::clamp(row, 0, last),
+                          std::clamp(column, 0, model()->columnCount() - 1));
+}
+
+void EventTableView::setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags command) {
+    const QModelIndex index = indexAt(rect.topLeft());
+    if (selectionModel() == nullptr) return;
+    selectionModel()->select(index.isValid() ? QItemSelection(index, index) : QItemSelection(),
+                             command);
+}
+
+QRegion EventTableView::visualRegionForSelection(const QItemSelection& selection) const {
+    QRegion region;
+    const QRect area = viewport()->rect();
+    for (const QItemSelectionRange& range : selection) {
+        const int top = range.top() * rowHeight - verticalOffset();
+        region += QRect(0, top, area.width(), range.height() * rowHeight) & area;
+    }
+    return region;
+}
+
+void EventTableView::mousePressEvent(QMouseEvent* event) {
+    if (!indexAt(event->position().toPoint()).isValid()) {
+        selectionModel()->clear();
+    }
+    QTableView::mousePressEvent(event);
+}
+
+void EventTableView::keyPressEvent(QKeyEvent* event) {
+    // The toolkit would put the current cell on the clipboard, over what the user has there.
+    if (event->matches(QKeySequence::Copy)) return;
+    QTableView::keyPressEvent(event);
+}
+
+void EventTableView::focusInEvent(QFocusEvent* event) {
+    QTableView::focusInEvent(event);
+    const Qt::FocusReason reason = event->reason();
+    if (reason != Qt::TabFocusReason && reason != Qt::BacktabFocusReason) return;
+    if (focusFrame == nullptr) focusFrame = new QFocusFrame(this);
+    focusFrame->setWidget(this);
+}
+
+void EventTableView::focusOutEvent(QFocusEvent* event) {
+    QTableView::focusOutEvent(event);
+    if (focusFrame != nullptr) focusFrame->setWidget(nullptr);
+}
+
+}  // namespace clipvane

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QFocusFrame>
+#include <QStringListModel>
+#include <QTableView>
+
+#include "ui/HighlightRowView.h"
+
+namespace clipvane {
+
+/// The event list. Selects whole rows, one at a time.
+///
+/// All rows are alike, so their places are reckoned and not kept: a list of a million events opens
+/// as fast as one of ten. The toolkit's own vertical header would remember every row's height.
+class EventTableView : public QTableView {
+  public:
+    static constexpr int rowHeight = 48;  ///< 44, and 4 between two rows
+    static constexpr int headerHeight = 32;
+
+    explicit EventTableView(QWidget* parent = nullptr);
+
+    void setModel(QAbstractItemModel* model) override;
+    /// What lies behind the cells of `row`; of a row that does not exist, nothing marked.
+    HighlightRowView rowViewForRow(int row) const;
+
+    QRect visualRect(const QModelIndex& index) const override;
+    QModelIndex indexAt(const QPoint& point) const override;
+    void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
+    /// Typing in the list searches nothing.
+    void keyboardSearch(const QString&) override {}
+
+  protected:
+    void updateGeometries() override;
+    int verticalOffset() const override;
+    int sizeHintForColumn(int column) const override;
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+    void setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags command) override;
+    QRegion visualRegionForSelection(const QItemSelection& selection) const override;
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+  private:
+    int rowCount() const;
+    int firstRowIn(const QRect& area) const;
+    int lastRowIn(const QRect& area) const;
+    void keepMinimumWidth(int column, int width);
+    void fitLastColumn();
+    void paintRow(QPainter& painter, int row, const QRect& dirty) const;
+
+    QFocusFrame* focusFrame = nullptr;  ///< seen while the keyboard has led here
+    QStringListModel noRows;            ///< the vertical header's model
+    bool fitting = false;
+};
+
+}  // namespace clipvane

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+#include <filesystem>
+#include <optional>
+#include <string>
+
+class QWidget;
+
+namespace clipvane {
+
+/// The modal panels that ask for a file. Both start in the folder that was used last in this run.
+class FilePanels {
+  public:
+    explicit FilePanels(QWidget* parent) : parent(parent) {}
+
+    /// A timeline file to open, or nothing when the user cancelled.
+    std::optional<std::filesystem::path> runOpenPanel();
+    /// A place to save to, its name preset. Replacing a file asks first.
+    std::optional<std::filesystem::path> runSavePanel(const std::string& defaultName);
+
+  private:
+    QWidget* parent;
+    QString folder;
+};
+
+}  // namespace clipvane

@@ -1,0 +1,36 @@
+#include "ui/FrameMinimumSize.h"
+
+#include <QEvent>
+#include <QWidget>
+#include <QWindow>
+
+namespace clipvane {
+
+FrameMinimumSize::FrameMinimumSize(QWidget* window, const QSize& minimum)
+    : QObject(window), window(window), minimum(minimum) {
+    window->installEventFilter(this);
+    apply();
+}
+
+void FrameMinimumSize::apply() {
+    const QMargins frame =
+        window->windowHandle() ? window->windowHandle()->frameMargins() : QMargins();
+    window->setMinimumSize(minimum.shrunkBy(frame));
+}
+
+bool FrameMinimumSize::eventFilter(QObject* watched, QEvent* event) {
+    switch (event->type()) {
+        case QEvent::Show:
+        case QEvent::Move:
+        case QEvent::Resize:
+        case QEvent::WindowActivate:
+        case QEvent::WindowStateChange:
+            apply();
+            break;
+        default:
+            break;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+}  // namespace clipvane

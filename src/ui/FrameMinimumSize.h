@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QObject>
+#include <QSize>
+
+class QWidget;
+
+namespace clipvane {
+
+/// Keeps a window from becoming smaller than a size that counts its frame, which is known only once
+/// the window is on the screen. Lives with the window.
+class FrameMinimumSize : public QObject {
+  public:
+    FrameMinimumSize(QWidget* window, const QSize& minimum);
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void apply();
+
+    QWidget* window;
+    QSize minimum;
+};
+
+}  // namespace clipvane

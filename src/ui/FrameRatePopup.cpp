@@ -1,0 +1,64 @@
+#include "ui/FrameRatePopup.h"
+
+#include <QAbstractItemView>
+#include <QKeyEvent>
+#include <QWheelEvent>
+
+#include "timecode/FrameRate.h"
+#include "ui/Fonts.h"
+#include "ui/Text.h"
+
+namespace clipvane {
+namespace {
+
+QString title(double fps) {
+    return toQt(formatFPS(fps) + " fps");
+}
+
+bool opensList(int key) {
+    switch (key) {
+        case Qt::Key_Up:
+        case Qt::Key_Down:
+        case Qt::Key_Left:
+        case Qt::Key_Right:
+        case Qt::Key_Space:
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+        case Qt::Key_F4:
+            return true;
+        default:
+            return false;
+    }
+}
+
+}  // namespace
+
+FrameRatePopup::FrameRatePopup(QWidget* parent) : QComboBox(parent) {
+    setAccessibleName("Global FPS");
+    setFont(systemFont(15, QFont::Medium));
+    setFocusPolicy(Qt::TabFocus);
+    setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    setMaxVisibleItems(30);
+    view()->setAccessibleName("Frame rates");
+    for (const double fps : standardFPSValues) addItem(title(fps));
+}
+
+void FrameRatePopup::showRate(double fps) {
+    const QString wanted = title(fps);
+    if (findText(wanted, Qt::MatchExactly | Qt::MatchCaseSensitive) < 0) addItem(wanted);
+    setCurrentIndex(findText(wanted, Qt::MatchExactly | Qt::MatchCaseSensitive));
+}
+
+void FrameRatePopup::keyPressEvent(QKeyEvent* event) {
+    if (opensList(event->key())) {
+        showPopup();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void FrameRatePopup::wheelEvent(QWheelEvent* event) {
+    event->ignore();
+}
+
+}  // namespace clipvane

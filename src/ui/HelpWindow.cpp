@@ -1,0 +1,75 @@
+#include "ui/HelpWindow.h"
+
+#include <QEvent>
+#include <QPlainTextEdit>
+#include <QVBoxLayout>
+
+#include "ui/Colours.h"
+#include "ui/Fonts.h"
+#include "ui/FrameMinimumSize.h"
+#include "ui/HelpText.h"
+#include "ui/Text.h"
+
+namespace clipvane {
+namespace {
+
+constexpr QSize contentSize{620, 520};
+constexpr QSize minimumFrameSize{520, 420};
+constexpr int margin = 18;
+constexpr int textInset = 10;
+
+QPlainTextEdit* makeTextView() {
+    auto* view = new QPlainTextEdit;
+    view->setAccessibleName("Instructions");
+    view->setReadOnly(true);
+    view->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    view->setTabChangesFocus(true);
+    view->setFrameShape(QFrame::NoFrame);
+    view->setFont(systemFont(15));
+    view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    view->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    QPalette own = view->palette();
+    own.setColor(QPalette::Base, colours::helpWindow);
+    own.setColor(QPalette::Text, colours::white);
+    view->setPalette(own);
+    view->document()->setDocumentMargin(textInset);
+    view->setPlainText(toQt(helpText()));
+    return view;
+}
+
+}  // namespace
+
+HelpWindow::HelpWindow() {
+    setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                   Qt::WindowSystemMenuHint | Qt::WindowMaximizeButtonHint |
+                   Qt::WindowCloseButtonHint);
+    setWindowTitle("Clipvane Help");
+    setContextMenuPolicy(Qt::NoContextMenu);
+    auto* content = new QWidget;
+    content->setAutoFillBackground(true);
+    QPalette own = palette();
+    own.setColor(QPalette::Window, colours::helpWindow);
+    content->setPalette(own);
+    auto* layout = new QVBoxLayout(content);
+    layout->setContentsMargins(margin, margin, margin, margin);
+    layout->addWidget(makeTextView());
+    setCentralWidget(content);
+    new FrameMinimumSize(this, minimumFrameSize);
+    resize(contentSize);
+}
+
+void HelpWindow::centre(const QRect& area, const QMargins& frame) {
+    const QSize whole = size().grownBy(frame);
+    move(area.left() + (area.width() - whole.width()) / 2,
+         area.top() + (area.height() - whole.height()) / 2);
+}
+
+void HelpWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    // Not every window manager heeds that the window is not to be minimized.
+    if (event->type() == QEvent::WindowStateChange && isMinimized()) {
+        setWindowState(windowState() & ~Qt::WindowMinimized);
+    }
+}
+
+}  // namespace clipvane

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QMainWindow>
+
+namespace clipvane {
+
+/// The window with the instructions. Closing only hides it; shown again it is as it was left.
+class HelpWindow : public QMainWindow {
+  public:
+    HelpWindow();
+
+    /// Puts the window, with the `frame` that it will get, into the middle of `area`.
+    void centre(const QRect& area, const QMargins& frame);
+
+  protected:
+    void changeEvent(QEvent* event) override;
+};
+
+}  // namespace clipvane

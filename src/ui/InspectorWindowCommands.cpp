@@ -1,0 +1,110 @@
+#include <QApplication>
+#include <QClipboard>
+#include <QItemSelectionModel>
+#include <QScopeGuard>
+#include <QScopedValueRollback>
+
+#include "ui/AlertDialog.h"
+#include "ui/AppLog.h"
+#include "ui/CommentsView.h"
+#include "ui/DetailStackView.h"
+#include "ui/EventTableView.h"
+#include "ui/FrameRatePopup.h"
+#include "ui/InspectorWindowController.h"
+#include "ui/StatusLabel.h"
+#include "ui/Text.h"
+#include "ui/TextLabel.h"
+
+// What the document commands ask of the toolkit.
+
+namespace clipvane {
+
+std::optional<std::filesystem::path> InspectorWindowController::runOpenPanel() {
+    return panels.runOpenPanel();
+}
+
+std::optional<std::filesystem::path> InspectorWindowController::runSavePanel(
+    const std::string& defaultName) {
+    return panels.runSavePanel(defaultName);
+}
+
+void InspectorWindowController::runAlert(const Alert& alert) {
+    AlertDialog(alert, &mainWindow).exec();
+}
+
+std::optional<std::size_t> InspectorWindowController::selectedRow() const {
+    const QModelIndexList rows = tableView->selectionModel()->selectedRows();
+    if (rows.isEmpty()) return std::nullopt;
+    return static_cast<std::size_t>(rows.first().row());
+}
+
+void InspectorWindowController::selectRow(std::size_t row) {
+    {
+        const QScopedValueRollback guard(reloading, true);
+        tableView->selectRow(static_cast<int>(row));
+    }
+    refreshDetails();
+}
+
+void InspectorWindowController::reloadTable() {
+    const auto row = selectedRow();
+    // The table moves its selection before a row is gone, and drops it when all are.
+    const QScopedValueRollback guard(reloading, true);
+    tableModel.reload(row);
+}
+
+void InspectorWindowController::tableViewSelectionDidChange() {
+    if (!reloading) refreshDetails();
+}
+
+void InspectorWindowController::refreshDetails() {
+    const auto row = selectedRow();
+    detailStack->setTitle(toQt(detailTitle(documentModel, row)));
+    detailStack->insertDetailRows(detailRows(documentModel, row));
+    if (row && *row < documentModel.events.size()) {
+        const TimelineEvent& event = documentModel.events[*row];
+        commentsView->showComments(event.id, event.comments);
+    } else {
+        commentsView->showNothing();
+    }
+}
+
+void InspectorWindowController::setEmptyLabelHidden(bool hidden) {
+    emptyEventsLabel->setHidden(hidden);
+}
+
+void InspectorWindowController::setStatus(const std::string& text) {
+    statusLabel->showStatus(toQt(text));
+}
+
+std::optional<std::string> InspectorWindowController::editedComments() const {
+    if (!commentsView->isEdited()) return std::nullopt;
+    return commentsView->comments();
+}
+
+std::optional<std::string> InspectorWindowController::selectedFPSTitle() const {
+    if (fpsPopup->currentIndex() < 0) return std::nullopt;
+    return toUTF8(fpsPopup->currentText());
+}
+
+void InspectorWindowController::syncFPSPopup() {
+    fpsPopup->showRate(documentModel.fps);
+}
+
+void InspectorWindowController::setPasteboardText(const std::string& text) {
+    QGuiApplication::clipboard()->setText(toQt(text));
+}
+
+void InspectorWindowController::writeLog(const std::string& message) {
+    AppLog::write(message);
+}
+
+void InspectorWindowController::whileBusy(const std::function<void()>& work) {
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    const auto restore = qScopeGuard([] { QApplication::restoreOverrideCursor(); });
+    // The cursor, and what a closed panel uncovered, reach the screen before the work begins.
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    work();
+}
+
+}  // namespace clipvane

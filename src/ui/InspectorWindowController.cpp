@@ -1,0 +1,104 @@
+#include "ui/InspectorWindowController.h"
+
+#include <QItemSelectionModel>
+#include <QScrollBar>
+
+#include "ui/AppLog.h"
+#include "ui/Colours.h"
+#include "ui/CommentsBlockView.h"
+#include "ui/DetailScrollView.h"
+#include "ui/DetailStackView.h"
+#include "ui/EventTableView.h"
+#include "ui/Fonts.h"
+#include "ui/FrameMinimumSize.h"
+#include "ui/FrameRatePopup.h"
+#include "ui/Geometry.h"
+#include "ui/HelpWindow.h"
+#include "ui/MainLayoutView.h"
+#include "ui/PanelView.h"
+#include "ui/StatusLabel.h"
+#include "ui/TextLabel.h"
+#include "ui/ToolbarView.h"
+
+namespace clipvane {
+namespace {
+
+constexpr QSize contentSize{static_cast<int>(windowWidth), static_cast<int>(windowHeight)};
+constexpr QSize minimumFrameSize{static_cast<int>(windowMinimumWidth),
+                                 static_cast<int>(windowMinimumHeight)};
+
+}  // namespace
+
+InspectorWindowController::InspectorWindowController()
+    : rootView(new MainLayoutView),
+      tableView(new EventTableView),
+      emptyEventsLabel(new TextLabel("Open a timeline file to view events",
+                                     systemFont(22, QFont::DemiBold), colours::emptyLabel)),
+      detailStack(new DetailStackView),
+      fpsPopup(new FrameRatePopup),
+      commentsView(new CommentsView),
+      statusLabel(new StatusLabel("Open an EDL, XML, FCPXML, or XMEML timeline file.")) {
+    mainWindow.setWindowTitle("Clipvane");
+    mainWindow.setContextMenuPolicy(Qt::NoContextMenu);
+    new FrameMinimumSize(&mainWindow, minimumFrameSize);
+    AppLog::write("Setting up main UI.");
+    buildWindow();
+}
+
+InspectorWindowController::~InspectorWindowController() = default;
+
+void InspectorWindowController::buildWindow() {
+    mainWindow.setCentralWidget(rootView);
+    rootView->toolbar = makeToolbar();
+    rootView->status = statusLabel;
+    rootView->leftPanel = makeEventPanel();
+    rootView->rightPanel = makeDetailPanel();
+    for (QWidget* region :
+         {rootView->toolbar, rootView->status, rootView->leftPanel, rootView->rightPanel}) {
+        region->setParent(rootView);
+    }
+    mainWindow.resize(contentSize);
+    rootView->layout();
+    QWidget::setTabOrder(rootView->toolbar, tableView);
+    QWidget::setTabOrder(tableView, commentsView);
+    refreshDetails();
+}
+
+PanelView* InspectorWindowController::makeEventPanel() {
+    tableView->setModel(&tableModel);
+    QObject::connect(tableView->selectionModel(), &QItemSelectionModel::selectionChanged,
+                     &mainWindow, [this] { tableViewSelectionDidChange(); });
+    emptyEventsLabel->setAlignment(Qt::AlignCenter);
+    emptyEventsLabel->setAttribute(Qt::WA_TransparentForMouseEvents);
+    auto* panel = new PanelView("Event Viewer");
+    panel->addContent(tableView);
+    panel->addContent(emptyEventsLabel, QMargins(20, 20, 20, 20));
+    return panel;
+}
+
+PanelView* InspectorWindowController::makeDetailPanel() {
+    QObject::connect(commentsView, &QPlainTextEdit::textChanged, &mainWindow, [this] {
+        if (commentsView->isEdited()) textDidChange();
+    });
+    detailStack->setCommentsBlock(new CommentsBlockView(commentsView));
+    auto* scrollView = new DetailScrollView(detailStack);
+    // The scroll bar stands in the panel's margin: the whole content width is the stack's.
+    const int bar = scrollView->verticalScrollBar()->sizeHint().width();
+    auto* panel = new PanelView("Selected Event");
+    panel->addContent(scrollView, QMargins(0, 0, -bar, 0));
+    return panel;
+}
+
+QWidget* InspectorWindowController::makeToolbar() {
+    syncFPSPopup();
+    QObject::connect(fpsPopup, &QComboBox::activated, &mainWindow, [this] { fpsChanged(); });
+    return new ToolbarView({.openTimeline = [this] { openTimeline(); },
+                            .removeSelectedEvent = [this] { removeSelectedEvent(); },
+                            .copySelectedInfo = [this] { copySelectedInfo(); },
+                            .exportCSV = [this] { exportCSV(); },
+                            .exportEDL = [this] { exportEDL(); },
+                            .showHelp = [this] { showHelp(); }},
+                           fpsPopup);
+}
+
+}  // namespace clipvane

@@ -1,0 +1,59 @@
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QScreen>
+#include <QWindow>
+
+#include "ui/Geometry.h"
+#include "ui/HelpWindow.h"
+#include "ui/InspectorWindowController.h"
+
+namespace clipvane {
+namespace {
+
+constexpr QSize contentSize{static_cast<int>(windowWidth), static_cast<int>(windowHeight)};
+constexpr int activationPatience = 1000;  ///< ms; a desktop may refuse to activate a window
+
+QMargins frameOf(const QWidget& window) {
+    return window.windowHandle() ? window.windowHandle()->frameMargins() : QMargins();
+}
+
+/// Only what the window system says is listened to: no click is served before its time.
+void waitUntilActive(const QWidget& window) {
+    QElapsedTimer waited;
+    waited.start();
+    while (!window.isActiveWindow() && waited.elapsed() < activationPatience) {
+        QCoreApplication::processEvents(
+            QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents, 20);
+    }
+}
+
+}  // namespace
+
+void InspectorWindowController::showWindow() {
+    fitScreen();
+    mainWindow.show();
+    mainWindow.raise();
+    mainWindow.activateWindow();
+    waitUntilActive(mainWindow);
+    fitScreen();
+}
+
+/// On a screen smaller than the window the frame fits what is free, as far as its minimum allows.
+void InspectorWindowController::fitScreen() {
+    const QSize room = mainWindow.screen()->availableGeometry().size();
+    const QSize fitting = contentSize.boundedTo(room.shrunkBy(frameOf(mainWindow)));
+    mainWindow.resize(fitting.expandedTo(mainWindow.minimumSize()));
+}
+
+void InspectorWindowController::showHelp() {
+    if (!helpWindow) {
+        helpWindow = std::make_unique<HelpWindow>();
+        // Both windows get the same frame, but only one has it yet.
+        helpWindow->centre(mainWindow.screen()->availableGeometry(), frameOf(mainWindow));
+    }
+    helpWindow->show();
+    helpWindow->raise();
+    helpWindow->activateWindow();
+}
+
+}  // namespace clipvane

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QPalette>
+
+namespace clipvane {
+
+/// The program's own dark palette, which no desktop theme changes.
+QPalette darkPalette();
+
+}  // namespace clipvane

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QMargins>
+#include <QWidget>
+#include <vector>
+
+namespace clipvane {
+
+/// A rounded box with a title. Its content follows its size.
+class PanelView : public QWidget {
+  public:
+    explicit PanelView(const QString& title, QWidget* parent = nullptr);
+
+    /// Adds `view` above the content there is; it fills the panel inside the box's margins but for
+    /// `margins` of its own.
+    void addContent(QWidget* view, const QMargins& margins = {});
+    /// The place inside the margins, below the title.
+    QRect contentRect() const;
+
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    struct Content {
+        QWidget* view;
+        QMargins margins;
+    };
+
+    QWidget* titleLabel;
+    std::vector<Content> contents;
+};
+
+}  // namespace clipvane

@@ -1,0 +1,51 @@
+#include "ui/Startup.h"
+
+#include <QApplication>
+#include <QSettings>
+#include <QToolTip>
+#include <csignal>
+#include <cstdio>
+
+#include "ui/ClipvaneStyle.h"
+#include "ui/Fonts.h"
+#include "ui/Palette.h"
+#include "ui/PopupAccessibility.h"
+
+namespace clipvane {
+namespace {
+
+/// Only what ends the program is worth a line on the standard error.
+void reportFatal(QtMsgType type, const QMessageLogContext&, const QString& message) {
+    if (type != QtFatalMsg) return;
+    std::fprintf(stderr, "clipvane: %s\n", message.toLocal8Bit().constData());
+}
+
+}  // namespace
+
+void ignoreWriteSignals() {
+    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
+}
+
+void prepareToolkit() {
+    qInstallMessageHandler(reportFatal);
+    qunsetenv("QT_STYLE_OVERRIDE");
+    QApplication::setDesktopSettingsAware(false);
+    // The toolkit's file dialog keeps settings, which have to go nowhere.
+    for (const auto format : {QSettings::NativeFormat, QSettings::IniFormat}) {
+        QSettings::setPath(format, QSettings::UserScope, "/dev/null");
+    }
+}
+
+void dressApplication(QApplication& application) {
+    application.setApplicationName("Clipvane");
+    application.setDesktopFileName("clipvane");
+    application.setStyle(new ClipvaneStyle);
+    application.setPalette(darkPalette());
+    application.setFont(systemFont(13));
+    QToolTip::setFont(systemFont(13));
+    QToolTip::setPalette(darkPalette());
+    installPopupAccessibility();
+}
+
+}  // namespace clipvane

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "ui/TextLabel.h"
+
+namespace clipvane {
+
+/// The status line. Tells assistive technology what it says.
+class StatusLabel : public TextLabel {
+  public:
+    explicit StatusLabel(const QString& text, QWidget* parent = nullptr);
+
+    void showStatus(const QString& text);
+};
+
+}  // namespace clipvane

@@ -1,0 +1,116 @@
+#include "ui/TextLabel.h"
+
+#include <QEvent>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QTextLayout>
+#include <QToolTip>
+#include <algorithm>
+
+#include "ui/Text.h"
+
+namespace clipvane {
+
+TextLabel::TextLabel(const QString& text, const QFont& font, const QColor& colour, QWidget* parent)
+    : QLabel(parent) {
+    setTextFormat(Qt::PlainText);
+    setFont(font);
+    setColour(colour);
+    setText(text);
+}
+
+void TextLabel::setColour(const QColor& colour) {
+    QPalette own = palette();
+    own.setColor(QPalette::WindowText, colour);
+    setPalette(own);
+}
+
+QColor TextLabel::colour() const {
+    return palette().color(QPalette::WindowText);
+}
+
+void TextLabel::setElideMode(Qt::TextElideMode newMode) {
+    mode = newMode;
+    update();
+}
+
+void TextLabel::setMaximumLines(int count) {
+    lineLimit = count;
+    QSizePolicy policy = sizePolicy();
+    policy.setHeightForWidth(count > 1);
+    setSizePolicy(policy);
+    updateGeometry();
+}
+
+bool TextLabel::isElided() const {
+    return lines(width()).elided;
+}
+
+int TextLabel::heightForWidth(int width) const {
+    return static_cast<int>(lines(width).texts.size()) * fontMetrics().lineSpacing();
+}
+
+QSize TextLabel::sizeHint() const {
+    return {fontMetrics().horizontalAdvance(displayLine(text())) + 1, fontMetrics().height()};
+}
+
+QSize TextLabel::minimumSizeHint() const {
+    return {0, fontMetrics().height()};
+}
+
+TextLabel::Lines TextLabel::lines(int width) const {
+    const QString line = displayLine(text());
+    Lines result;
+    qsizetype start = 0;
+    if (lineLimit > 1) {
+        QTextLayout layout(line, font());
+        QTextOption option;
+        option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+        layout.setTextOption(option);
+        layout.beginLayout();
+        for (QTextLine part = layout.createLine();
+             part.isValid() && result.texts.size() < lineLimit - 1; part = layout.createLine()) {
+            part.setLineWidth(width);
+            result.texts.append(line.mid(part.textStart(), part.textLength()).trimmed());
+            start = part.textStart() + part.textLength();
+        }
+        layout.endLayout();
+        if (start >= line.size() && !result.texts.isEmpty()) return result;
+    }
+    const QString rest = start == 0 ? line : line.mid(start).trimmed();
+    const QString shown = fontMetrics().elidedText(rest, mode, width);
+    result.texts.append(shown);
+    result.elided = shown != rest;
+    return result;
+}
+
+bool TextLabel::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) return QLabel::event(event);
+    if (isElided()) {
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), toolTipText(text()), this);
+    } else {
+        QToolTip::hideText();
+    }
+    return true;
+}
+
+void TextLabel::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setPen(colour());
+    const QStringList texts = lines(width()).texts;
+    const QFontMetrics metrics = fontMetrics();
+    const int spacing = metrics.lineSpacing();
+    int y = baseline;
+    if (y < 0) {
+        const int total = static_cast<int>(texts.size()) * spacing;
+        y = (height() - total) / 2 + (spacing - metrics.height()) + metrics.ascent();
+    }
+    for (const QString& line : texts) {
+        const int room = width() - metrics.horizontalAdvance(line);
+        const int x = alignment() & Qt::AlignHCenter ? std::max(room / 2, 0) : 0;
+        painter.drawText(QPoint(x, y), line);
+        y += spacing;
+    }
+}
+
+}  // namespace clipvane

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QLabel>
+
+namespace clipvane {
+
+/// A label for any text, however long and whatever it holds: shown as it stands, left-aligned
+/// unless centred, elided where it does not fit, with the whole text as a tool tip then.
+class TextLabel : public QLabel {
+  public:
+    TextLabel(const QString& text, const QFont& font, const QColor& colour,
+              QWidget* parent = nullptr);
+
+    void setColour(const QColor& colour);
+    QColor colour() const;
+    void setElideMode(Qt::TextElideMode mode);
+    Qt::TextElideMode elideMode() const { return mode; }
+    /// Wraps to at most `count` lines.
+    void setMaximumLines(int count);
+    int maximumLines() const { return lineLimit; }
+    /// The y of the text's baseline; without one the text is centred vertically.
+    void setBaseline(int y) { baseline = y; }
+
+    bool isElided() const;
+    int heightForWidth(int width) const override;
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+  protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    struct Lines {
+        QStringList texts;
+        bool elided = false;
+    };
+    Lines lines(int width) const;
+
+    Qt::TextElideMode mode = Qt::ElideRight;
+    int lineLimit = 1;
+    int baseline = -1;
+};
+
+}  // namespace clipvane

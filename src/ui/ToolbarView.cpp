@@ -1,0 +1,77 @@
+#include "ui/ToolbarView.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QPushButton>
+
+#include "ui/Colours.h"
+#include "ui/Fonts.h"
+#include "ui/FrameRatePopup.h"
+#include "ui/TextLabel.h"
+
+namespace clipvane {
+namespace {
+
+constexpr int spacing = 8;
+constexpr int fpsSpacing = 12;
+
+/// A click leaves the focus where it is, so that the list can be walked on by keyboard.
+class ToolbarButton : public QPushButton {
+  public:
+    explicit ToolbarButton(const QString& title) : QPushButton(title) {
+        setFont(systemFont(14, QFont::Medium));
+        setFocusPolicy(Qt::TabFocus);
+    }
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+            click();
+        } else {
+            QPushButton::keyPressEvent(event);
+        }
+    }
+};
+
+QWidget* fpsControlRow(FrameRatePopup* popup) {
+    auto* row = new QWidget;
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(fpsSpacing);
+    auto* label =
+        new TextLabel("Global FPS", systemFont(14, QFont::DemiBold), colours::secondaryText);
+    label->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    label->setBuddy(popup);
+    layout->addWidget(label);
+    layout->addWidget(popup);
+    return row;
+}
+
+}  // namespace
+
+ToolbarView::ToolbarView(const ToolbarActions& actions, FrameRatePopup* fpsPopup, QWidget* parent)
+    : QWidget(parent) {
+    setAccessibleName("Toolbar");
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(spacing);
+    const auto addButton = [&](const char* title, const std::function<void()>& action) {
+        auto* button = new ToolbarButton(title);
+        connect(button, &QPushButton::clicked, this, action);
+        layout->addWidget(button);
+    };
+
+    auto* name = new TextLabel("Clipvane", systemFont(26, QFont::Bold), colours::white);
+    name->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    layout->addWidget(name);
+    layout->addStretch(1);
+    addButton("Open Timeline", actions.openTimeline);
+    layout->addWidget(fpsControlRow(fpsPopup));
+    addButton("Remove Event", actions.removeSelectedEvent);
+    addButton("Copy Info", actions.copySelectedInfo);
+    addButton("Export CSV", actions.exportCSV);
+    addButton("Export EDL", actions.exportEDL);
+    addButton("Help", actions.showHelp);
+}
+
+}  // namespace clipvane

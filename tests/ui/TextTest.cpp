@@ -1,0 +1,31 @@
+#include "ui/Text.h"
+
+#include <gtest/gtest.h>
+
+namespace clipvane {
+namespace {
+
+TEST(DisplayLine, LineBreaksAndControls_BecomeBlanks) {
+    EXPECT_EQ(displayLine(QString::fromUtf16(u"a\nb\r\tc\u2028d\u2029e\u0085f")), "a b  c d e f");
+}
+
+TEST(DisplayLine, VeryLongText_KeepsItsEnds) {
+    const QString line = displayLine("begin" + QString(1'000'000, 'x') + "end");
+    EXPECT_LE(line.size(), 1025);
+    EXPECT_TRUE(line.startsWith("begin"));
+    EXPECT_TRUE(line.contains(u'…'));
+    EXPECT_TRUE(line.endsWith("end"));
+}
+
+TEST(DisplayLine, CutInsidePairs_KeepsWholeCharacters) {
+    const QString smile = QString::fromUtf8("😀");
+    const QString line = displayLine("a" + smile.repeated(2000));
+    EXPECT_TRUE(line.isValidUtf16());
+}
+
+TEST(ToolTipText, Markup_IsShownAsText) {
+    EXPECT_TRUE(toolTipText("<b>x</b>&").contains("&lt;b&gt;x&lt;/b&gt;&amp;"));
+}
+
+}  // namespace
+}  // namespace clipvane
