@@ -87,8 +87,10 @@ std::optional<std::int64_t> CommonTimelineXMLDelegate::frames(std::string_view f
 
 std::string CommonTimelineXMLDelegate::timecode(std::int64_t fromFrames) const {
     const std::int64_t base = frameBase(fps);
-    if (const auto usual = writeTwoDigitFields(fromFrames, base, ':')) {
-        return {usual->data(), usual->size()};
+    if (fitsTwoDigitFields(fromFrames, base)) {
+        std::string text(twoDigitLength, '0');
+        writeTwoDigitFields(std::span<char, twoDigitLength>(text), fromFrames, base, ':');
+        return text;
     }
     const std::int64_t seconds = fromFrames / base;
     const std::int64_t frames = fromFrames - seconds * base;

@@ -46,8 +46,11 @@ std::int64_t countFrames(const TimecodeFields& fields, std::int64_t base) {
 }
 
 void appendTimecode(std::string& text, std::int64_t count, std::int64_t base, char separator) {
-    if (const auto usual = writeTwoDigitFields(count, base, separator)) {
-        text.append(usual->data(), usual->size());
+    if (fitsTwoDigitFields(count, base)) {
+        const std::size_t start = text.size();
+        text.resize(start + twoDigitLength);
+        writeTwoDigitFields(std::span<char, twoDigitLength>(text.data() + start, twoDigitLength),
+                            count, base, separator);
         return;
     }
     const std::int64_t totalSeconds = count / base;
@@ -86,13 +89,8 @@ bool TimecodeConversion::convert(std::string& timecode) const {
         static_cast<double>(count) / static_cast<double>(fromBase) * static_cast<double>(toBase));
     const bool dropFrame = timecode.find(dropFrameSeparator) != std::string::npos;
     const char separator = dropFrame ? dropFrameSeparator : ':';
-    const auto usual = writeTwoDigitFields(converted, toBase, separator);
-    if (usual && timecode.size() == usual->size()) {
-        std::ranges::copy(*usual, timecode.begin());
-    } else {
-        timecode.clear();
-        appendTimecode(timecode, converted, toBase, separator);
-    }
+    timecode.clear();
+    appendTimecode(timecode, converted, toBase, separator);
     return true;
 }
 

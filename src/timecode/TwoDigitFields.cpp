@@ -3,14 +3,15 @@
 namespace clipvane {
 namespace {
 
-constexpr char digitOf(std::uint32_t value) {
-    return static_cast<char>('0' + value);
+void writePair(char* text, std::uint32_t value) {
+    text[0] = static_cast<char>('0' + value / 10);
+    text[1] = static_cast<char>('0' + value % 10);
 }
 
 }  // namespace
 
 std::optional<TimecodeFields> readTwoDigitFields(std::string_view text) {
-    if (text.size() != std::tuple_size_v<TwoDigitTimecode>) return std::nullopt;
+    if (text.size() != twoDigitLength) return std::nullopt;
     TimecodeFields fields{};
     for (std::size_t i = 0; i < fields.size(); ++i) {
         const std::size_t at = i * 3;
@@ -23,23 +24,21 @@ std::optional<TimecodeFields> readTwoDigitFields(std::string_view text) {
     return fields;
 }
 
-std::optional<TwoDigitTimecode> writeTwoDigitFields(std::int64_t count, std::int64_t base,
-                                                    char separator) {
-    constexpr std::int64_t hundred = 100;
-    if (count < 0 || base > hundred || count >= hundred * 3600 * base) return std::nullopt;
-    // Within these limits 32 bits are enough, and dividing them is several times as fast.
+void writeTwoDigitFields(std::span<char, twoDigitLength> text, std::int64_t count,
+                         std::int64_t base, char separator) {
+    // For what fits, 32 bits are enough, and dividing them is several times as fast.
     const auto total = static_cast<std::uint32_t>(count);
     const auto divisor = static_cast<std::uint32_t>(base);
-    const std::uint32_t totalSeconds = total / divisor;
-    const std::uint32_t frames = total % divisor;
-    const std::uint32_t totalMinutes = totalSeconds / 60;
-    const std::uint32_t seconds = totalSeconds % 60;
-    const std::uint32_t hours = totalMinutes / 60;
-    const std::uint32_t minutes = totalMinutes % 60;
-    return TwoDigitTimecode{digitOf(hours / 10),   digitOf(hours % 10),   ':',
-                            digitOf(minutes / 10), digitOf(minutes % 10), ':',
-                            digitOf(seconds / 10), digitOf(seconds % 10), separator,
-                            digitOf(frames / 10),  digitOf(frames % 10)};
+    const std::uint32_t seconds = total / divisor;
+    const std::uint32_t minutes = seconds / 60;
+    char* const to = text.data();
+    writePair(to, minutes / 60);
+    to[2] = ':';
+    writePair(to + 3, minutes % 60);
+    to[5] = ':';
+    writePair(to + 6, seconds % 60);
+    to[8] = separator;
+    writePair(to + 9, total % divisor);
 }
 
 }  // namespace clipvane
