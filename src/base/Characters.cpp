@@ -7,8 +7,14 @@
 namespace clipvane {
 namespace {
 
+/// A character that nothing trims, seen without a closer look.
+constexpr bool isGraphicASCII(char c) {
+    return c > ' ' && c < '\x7F';
+}
+
 template <class Predicate>
 std::string_view trim(std::string_view text, Predicate isTrimmed) {
+    if (!text.empty() && isGraphicASCII(text.front()) && isGraphicASCII(text.back())) return text;
     while (!text.empty()) {
         const CodePoint first = firstCodePoint(text);
         if (!isTrimmed(first.value)) break;

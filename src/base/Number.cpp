@@ -101,36 +101,16 @@ std::optional<std::int64_t> parseInteger(std::string_view text) {
     return value;
 }
 
-std::int64_t addChecked(std::int64_t a, std::int64_t b) {
-    std::int64_t sum = 0;
-    if (__builtin_add_overflow(a, b, &sum)) fatal("a frame count exceeds 64 bits (addition)");
-    return sum;
-}
-
-std::int64_t subtractChecked(std::int64_t a, std::int64_t b) {
-    std::int64_t difference = 0;
-    if (__builtin_sub_overflow(a, b, &difference)) {
-        fatal("a frame count exceeds 64 bits (subtraction)");
-    }
-    return difference;
-}
-
-std::int64_t multiplyChecked(std::int64_t a, std::int64_t b) {
-    std::int64_t product = 0;
-    if (__builtin_mul_overflow(a, b, &product)) {
-        fatal("a frame count exceeds 64 bits (multiplication)");
-    }
-    return product;
-}
-
 std::int64_t roundToInteger(double value) {
-    const double rounded = std::round(value);
-    // 2^63 is the first double above the range; its negative is the range's lower end.
+    // 2^63 is the first double above the range; its negative is the range's lower end. Doubles of
+    // that size are whole, so that rounding leads none across.
     constexpr double limit = 9223372036854775808.0;
-    if (!(rounded >= -limit && rounded < limit)) {
+    if (!(value >= -limit && value < limit)) {
         fatal("a number cannot be rounded to a 64-bit integer");
     }
-    return static_cast<std::int64_t>(rounded);
+    const auto whole = static_cast<std::int64_t>(value);
+    const double fraction = value - static_cast<double>(whole);  // exact
+    return whole + (fraction >= 0.5 ? 1 : 0) - (fraction <= -0.5 ? 1 : 0);
 }
 
 void appendInteger(std::string& text, std::int64_t value) {

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/Fatal.h"
+
 namespace clipvane {
 
 /// Reads the whole of `text` as one number in C notation, whatever the locale: an optional sign,
@@ -18,9 +20,25 @@ std::optional<double> parseNumber(std::string_view text);
 std::optional<std::int64_t> parseInteger(std::string_view text);
 
 // Arithmetic on frame counts. Leaving the signed 64-bit range is fatal.
-std::int64_t addChecked(std::int64_t a, std::int64_t b);
-std::int64_t subtractChecked(std::int64_t a, std::int64_t b);
-std::int64_t multiplyChecked(std::int64_t a, std::int64_t b);
+inline std::int64_t addChecked(std::int64_t a, std::int64_t b) {
+    std::int64_t sum = 0;
+    if (__builtin_add_overflow(a, b, &sum)) fatal("a frame count exceeds 64 bits (addition)");
+    return sum;
+}
+inline std::int64_t subtractChecked(std::int64_t a, std::int64_t b) {
+    std::int64_t difference = 0;
+    if (__builtin_sub_overflow(a, b, &difference)) {
+        fatal("a frame count exceeds 64 bits (subtraction)");
+    }
+    return difference;
+}
+inline std::int64_t multiplyChecked(std::int64_t a, std::int64_t b) {
+    std::int64_t product = 0;
+    if (__builtin_mul_overflow(a, b, &product)) {
+        fatal("a frame count exceeds 64 bits (multiplication)");
+    }
+    return product;
+}
 
 /// The nearest integer, halves away from zero. A value that is not finite or lies outside the
 /// signed 64-bit range once rounded is fatal.

@@ -12,9 +12,10 @@ struct CodePoint {
     std::size_t length = 0;
 };
 
+CodePoint firstCodePointBeyondASCII(std::string_view text);
+
 /// The first code point of `text`, which must not be empty. An ill-formed sequence is read as
 /// U+FFFD over its maximal subpart, as Unicode recommends.
-CodePoint firstCodePointBeyondASCII(std::string_view text);
 inline CodePoint firstCodePoint(std::string_view text) {
     const auto byte = static_cast<unsigned char>(text.front());
     return byte < 0x80 ? CodePoint{byte, 1} : firstCodePointBeyondASCII(text);

@@ -95,6 +95,8 @@ XMLElement classifyBeyondASCII(std::string_view name) {
 XMLElement classifyXMLElement(std::string_view name) {
     constexpr std::size_t longestSequence = 4;
     if (name.empty() || name.size() > longestName * longestSequence) return XMLElement::other;
+    // Most documents write their names in lower case.
+    if (const XMLElement element = lookUp(name); element != XMLElement::other) return element;
     std::array<char, longestName * longestSequence> lowerCaseName;
     bool ascii = true;
     for (std::size_t i = 0; i < name.size(); ++i) {

@@ -1,12 +1,14 @@
 #include "import/XMLEncoding.h"
 
 #include <unicode/ucnv.h>
+#include <unicode/ucnv_cb.h>
 
+#include <algorithm>
 #include <array>
+#include <cstdint>
 #include <memory>
 
 #include "base/UTF8.h"
-#include "import/Scan.h"
 
 namespace clipvane {
 namespace {
@@ -15,6 +17,7 @@ using namespace std::string_view_literals;
 
 using ConverterPointer = std::unique_ptr<UConverter, decltype(&ucnv_close)>;
 
+constexpr std::string_view declarationStart = "<?xml";
 constexpr const char* utf8 = "UTF-8";
 constexpr const char* utf16 = "UTF-16";  // the parser finds out which of the two byte orders
 
@@ -25,7 +28,9 @@ bool looksLikeUTF16(std::string_view data) {
 
 /// The encoding that an XML declaration in ASCII-compatible bytes names, or empty text.
 std::string declaredEncoding(std::string_view data) {
-    if (!data.starts_with("<?xml")) return {};
+    const bool isDeclared = data.starts_with(declarationStart) &&
+                            data.find_first_of(" \t\r\n") == declarationStart.size();
+    if (!isDeclared) return {};
     const std::string_view declaration = data.substr(0, data.find("?>"));
     const std::size_t key = declaration.find("encoding");
     if (key == std::string_view::npos) return {};
@@ -42,30 +47,50 @@ ConverterPointer openConverter(const char* name) {
     return {ucnv_open(name, &error), ucnv_close};
 }
 
-/// Whether documents labelled with the converter's name had better be read as UTF-8: the ASCII in
-/// front of us excludes the wider encodings, and UTF-8 includes ASCII.
-bool meansUTF8(const UConverter& converter, std::string_view data) {
+/// Whether the converter takes the ASCII that the document begins with for what it is, which the
+/// wider encodings and EBCDIC do not.
+bool readsASCII(UConverter& converter) {
+    std::array<UChar, declarationStart.size() * 2> text;
+    UErrorCode error = U_ZERO_ERROR;
+    const auto length = ucnv_toUChars(
+        &converter, text.data(), static_cast<std::int32_t>(text.size()), declarationStart.data(),
+        static_cast<std::int32_t>(declarationStart.size()), &error);
+    return U_SUCCESS(error) &&
+           std::equal(text.data(), text.data() + length, declarationStart.begin(),
+                      declarationStart.end(), [](UChar a, char b) { return a == UChar(b); });
+}
+
+/// Whether documents labelled with the converter's name had better be read as UTF-8: the label is
+/// false, or means UTF-8, or ASCII, which UTF-8 includes.
+bool meansUTF8(UConverter& converter, std::string_view data) {
     switch (ucnv_getType(&converter)) {
         case UCNV_UTF8:
-        case UCNV_UTF16:
-        case UCNV_UTF16_BigEndian:
-        case UCNV_UTF16_LittleEndian:
-        case UCNV_UTF32:
-        case UCNV_UTF32_BigEndian:
-        case UCNV_UTF32_LittleEndian:
             return true;
         case UCNV_US_ASCII:
             return validUTF8Prefix(data) == data.size();
         default:
-            return false;
+            return !readsASCII(converter);
     }
+}
+
+/// Writes U+FFFD for bytes without meaning. ICU's own substitution may write U+001A, which no XML
+/// document can hold.
+void replaceBytes(const void* /*context*/, UConverterToUnicodeArgs* arguments,
+                  const char* /*bytes*/, std::int32_t /*count*/, UConverterCallbackReason reason,
+                  UErrorCode* error) {
+    constexpr UChar replacementCharacter = 0xFFFD;
+    if (reason > UCNV_IRREGULAR) return;
+    *error = U_ZERO_ERROR;
+    ucnv_cbToUWriteUChars(arguments, &replacementCharacter, 1, 0, error);
 }
 
 /// `data` in UTF-8; bytes that mean nothing in the converter's encoding become U+FFFD.
 std::string transcode(UConverter& from, std::string_view data) {
     const ConverterPointer to = openConverter(utf8);
     std::string text;
-    if (!to) return text;
+    UErrorCode callbackError = U_ZERO_ERROR;
+    ucnv_setToUCallBack(&from, replaceBytes, nullptr, nullptr, nullptr, &callbackError);
+    if (!to || U_FAILURE(callbackError)) return text;
     text.reserve(data.size() + data.size() / 8);
     std::array<UChar, 4096> pivot;
     std::array<char, 16384> piece;

@@ -1,5 +1,6 @@
 #include <expat.h>
 
+#include <algorithm>
 #include <exception>
 #include <memory>
 #include <new>
@@ -13,8 +14,11 @@
 namespace clipvane {
 namespace {
 
-/// The parser counts in ints, and a piece that stays in the processor's cache is read faster.
-constexpr std::size_t pieceSize = std::size_t{1} << 18;
+// The parser counts in ints, and a piece that stays in the processor's cache is read faster. But of
+// a long comment or tag the parser starts anew with every piece, so these grow until one is
+// through.
+constexpr std::size_t smallestPiece = std::size_t{1} << 18;
+constexpr std::size_t largestPiece = std::size_t{1} << 28;
 
 /// One run of the parser over a document, calling back the delegate.
 class ParserRun {
@@ -32,12 +36,15 @@ class ParserRun {
         const std::size_t total = data.size();
         XML_Status status = XML_STATUS_OK;
         bool isFinal = false;
+        std::size_t pieceSize = smallestPiece;
         while (status == XML_STATUS_OK && !isFinal) {
             const std::string_view piece = data.substr(0, pieceSize);
             data.remove_prefix(piece.size());
             isFinal = data.empty();
             const bool isFirst = piece.size() + data.size() == total;
+            hasProgressed = false;
             status = XML_Parse(parser.get(), piece.data(), static_cast<int>(piece.size()), isFinal);
+            pieceSize = hasProgressed ? smallestPiece : std::min(pieceSize * 2, largestPiece);
             if (isFirst && !isFinal) reserveForRest(delegate.events, piece.size(), total);
         }
         if (failure) std::rethrow_exception(failure);
@@ -50,6 +57,7 @@ class ParserRun {
     static void guarded(void* userData, Callback callback) noexcept {
         auto& run = *static_cast<ParserRun*>(userData);
         if (run.failure) return;
+        run.hasProgressed = true;
         try {
             callback(run.delegate);
         } catch (...) {
@@ -77,6 +85,7 @@ class ParserRun {
     CommonTimelineXMLDelegate& delegate;
     std::unique_ptr<XML_ParserStruct, decltype(&XML_ParserFree)> parser;
     std::exception_ptr failure;
+    bool hasProgressed = false;  ///< called back during the current piece
 };
 
 }  // namespace

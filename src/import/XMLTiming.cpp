@@ -27,15 +27,14 @@ std::optional<std::int64_t> timecodeFrames(std::string_view text, double fps) {
     std::array<std::int64_t, 4> fields{};  // hours, minutes, seconds, frames
     std::size_t count = 0;
     while (true) {
-        const auto isSeparator = [](char c) { return c == ':' || c == ';'; };
-        const auto separator = static_cast<std::size_t>(
-            std::find_if(text.begin(), text.end(), isSeparator) - text.begin());
-        if (const auto number = parseInteger(text.substr(0, separator))) {
+        std::size_t length = 0;
+        while (length < text.size() && text[length] != ':' && text[length] != ';') ++length;
+        if (const auto number = parseInteger(text.substr(0, length))) {
             if (count == fields.size()) return std::nullopt;
             fields[count++] = *number;
         }
-        if (separator == text.size()) break;
-        text.remove_prefix(separator + 1);
+        if (length == text.size()) break;
+        text.remove_prefix(length + 1);
     }
     if (count != fields.size()) return std::nullopt;
     const std::int64_t minutes = addChecked(multiplyChecked(fields[0], 60), fields[1]);

@@ -25,8 +25,7 @@ std::string formatFPS(double fps) {
                                    std::chars_format::fixed, 3)
                          .ptr;
     label.assign(digits.data(), end);
-    label.erase(label.find_last_not_of('0') + 1);
-    if (label.ends_with('.')) label.pop_back();
+    label.erase(label.find_last_not_of('0') + 1);  // a decimal stays: the rate is not that whole
     return label;
 }
 

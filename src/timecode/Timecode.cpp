@@ -15,13 +15,15 @@ constexpr char dropFrameSeparator = ';';
 /// Hours, minutes, seconds and frames.
 using Fields = std::array<std::int64_t, 4>;
 
+/// Two digits a field, as nearly every timecode is written.
+constexpr std::size_t usualLength = 11;
+
 constexpr bool isSeparator(char c) {
     return c == ':' || c == dropFrameSeparator;
 }
 
-/// The fields of a timecode as nearly every file writes it: eleven characters, two digits a field.
 std::optional<Fields> usualFields(std::string_view text) {
-    if (text.size() != 11) return std::nullopt;
+    if (text.size() != usualLength) return std::nullopt;
     Fields fields{};
     for (std::size_t i = 0; i < fields.size(); ++i) {
         const std::size_t at = i * 3;
@@ -66,11 +68,13 @@ constexpr char digitOf(std::uint32_t value) {
     return static_cast<char>('0' + value);
 }
 
-/// Appends a timecode of two digits a field, if the count makes one: nearly every count does, and
-/// 32-bit division is several times as fast.
-bool appendUsualTimecode(std::string& text, std::int64_t count, std::int64_t base, char separator) {
+using UsualTimecode = std::array<char, usualLength>;
+
+/// A timecode of two digits a field, if the count makes one: nearly every count does, and 32-bit
+/// division is several times as fast.
+std::optional<UsualTimecode> usualTimecode(std::int64_t count, std::int64_t base, char separator) {
     constexpr std::int64_t hundred = 100;
-    if (count < 0 || base > hundred || count >= hundred * 3600 * base) return false;
+    if (count < 0 || base > hundred || count >= hundred * 3600 * base) return std::nullopt;
     const auto total = static_cast<std::uint32_t>(count);
     const auto divisor = static_cast<std::uint32_t>(base);
     const std::uint32_t totalSeconds = total / divisor;
@@ -79,16 +83,17 @@ bool appendUsualTimecode(std::string& text, std::int64_t count, std::int64_t bas
     const std::uint32_t seconds = totalSeconds % 60;
     const std::uint32_t hours = totalMinutes / 60;
     const std::uint32_t minutes = totalMinutes % 60;
-    const std::array characters{digitOf(hours / 10),   digitOf(hours % 10),   ':',
-                                digitOf(minutes / 10), digitOf(minutes % 10), ':',
-                                digitOf(seconds / 10), digitOf(seconds % 10), separator,
-                                digitOf(frames / 10),  digitOf(frames % 10)};
-    text.append(characters.data(), characters.size());
-    return true;
+    return UsualTimecode{digitOf(hours / 10),   digitOf(hours % 10),   ':',
+                         digitOf(minutes / 10), digitOf(minutes % 10), ':',
+                         digitOf(seconds / 10), digitOf(seconds % 10), separator,
+                         digitOf(frames / 10),  digitOf(frames % 10)};
 }
 
 void appendTimecode(std::string& text, std::int64_t count, std::int64_t base, char separator) {
-    if (appendUsualTimecode(text, count, base, separator)) return;
+    if (const auto usual = usualTimecode(count, base, separator)) {
+        text.append(usual->data(), usual->size());
+        return;
+    }
     const std::int64_t totalSeconds = count / base;
     appendPadded(text, totalSeconds / 3600, 2);
     text += ':';
@@ -124,8 +129,14 @@ bool TimecodeConversion::convert(std::string& timecode) const {
     const std::int64_t converted = roundToInteger(
         static_cast<double>(count) / static_cast<double>(fromBase) * static_cast<double>(toBase));
     const bool dropFrame = timecode.find(dropFrameSeparator) != std::string::npos;
-    timecode.clear();
-    appendTimecode(timecode, converted, toBase, dropFrame ? dropFrameSeparator : ':');
+    const char separator = dropFrame ? dropFrameSeparator : ':';
+    const auto usual = usualTimecode(converted, toBase, separator);
+    if (usual && timecode.size() == usual->size()) {
+        std::ranges::copy(*usual, timecode.begin());
+    } else {
+        timecode.clear();
+        appendTimecode(timecode, converted, toBase, separator);
+    }
     return true;
 }
 

@@ -4,11 +4,9 @@
 
 namespace clipvane::colours {
 
-/// A colour from components in 0...1.
+/// A colour from components in 0...1, in the 256 steps that a screen has.
 inline QColor rgb(double red, double green, double blue, double alpha = 1) {
-    return QColor::fromRgbF(static_cast<float>(red), static_cast<float>(green),
-                            static_cast<float>(blue), static_cast<float>(alpha))
-        .convertTo(QColor::Rgb);
+    return {qRound(red * 255), qRound(green * 255), qRound(blue * 255), qRound(alpha * 255)};
 }
 
 // Surfaces.

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 
 #include "ui/Text.h"
 
@@ -17,8 +18,9 @@ constexpr const char* timelineFilter =
 std::optional<std::filesystem::path> run(QFileDialog& panel, QString& folder) {
     panel.setDirectory(folder.isEmpty() ? QDir::homePath() : folder);
     if (panel.exec() != QDialog::Accepted || panel.selectedFiles().isEmpty()) return std::nullopt;
-    folder = panel.directory().absolutePath();
-    return std::filesystem::path(QFile::encodeName(panel.selectedFiles().first()).toStdString());
+    const QString file = panel.selectedFiles().first();
+    folder = QFileInfo(file).absolutePath();
+    return std::filesystem::path(QFile::encodeName(file).toStdString());
 }
 
 }  // namespace

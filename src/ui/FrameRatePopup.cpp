@@ -1,5 +1,6 @@
 #include "ui/FrameRatePopup.h"
 
+#include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QWheelEvent>
 
@@ -38,6 +39,7 @@ FrameRatePopup::FrameRatePopup(QWidget* parent) : QComboBox(parent) {
     setFocusPolicy(Qt::TabFocus);
     setSizeAdjustPolicy(QComboBox::AdjustToContents);
     setMaxVisibleItems(30);
+    view()->setAccessibleName("Frame rates");
     for (const double fps : standardFPSValues) addItem(title(fps));
 }
 

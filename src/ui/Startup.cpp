@@ -9,6 +9,7 @@
 #include "ui/ClipvaneStyle.h"
 #include "ui/Fonts.h"
 #include "ui/Palette.h"
+#include "ui/PopupAccessibility.h"
 
 namespace clipvane {
 namespace {
@@ -44,6 +45,7 @@ void dressApplication(QApplication& application) {
     application.setFont(systemFont(13));
     QToolTip::setFont(systemFont(13));
     QToolTip::setPalette(darkPalette());
+    installPopupAccessibility();
 }
 
 }  // namespace clipvane

@@ -95,6 +95,17 @@ TEST(AtomicFile, WithoutNamelessFiles_UncommittedOneVanishesAndIsNeverMoreReadab
     EXPECT_EQ(folder.names(), Names{"file"});
 }
 
+TEST(AtomicFile, WithoutProc_WritesAllTheSame) {
+    const Refusal noProc(SystemCall::access, ENOENT);
+    const Refusal noLinks(SystemCall::linkat, ENOENT);
+    const TemporaryFolder folder;
+    EXPECT_TRUE(writeFileAtomically(folder / "file", "one"));
+    EXPECT_TRUE(writeFileAtomically(folder / "file", "two"));
+    EXPECT_EQ(contentOf(folder / "file"), "two");
+    EXPECT_EQ(folder.names(), Names{"file"});
+    EXPECT_EQ(noProc.count(), 2);
+}
+
 TEST(AtomicFile, NoTemporaryCanBeOpened_GivesTheReason) {
     const Refusal noNamelessFiles(SystemCall::openWithoutName, EOPNOTSUPP);
     const Refusal noFiles(SystemCall::open, EROFS);

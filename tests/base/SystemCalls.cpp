@@ -19,7 +19,7 @@ struct Plan {
 };
 
 Plan& planOf(SystemCall call) {
-    static std::array<Plan, 9> plans;
+    static std::array<Plan, 10> plans;
     return plans[static_cast<std::size_t>(call)];
 }
 
@@ -69,6 +69,11 @@ int __wrap_open(const char* path, int flags, mode_t mode) {
     const bool withoutName = (flags & O_TMPFILE) == O_TMPFILE;
     if (isRefused(withoutName ? SystemCall::openWithoutName : SystemCall::open)) return -1;
     return __real_open(path, flags, mode);
+}
+
+int __real_access(const char* path, int mode);
+int __wrap_access(const char* path, int mode) {
+    return isRefused(SystemCall::access) ? -1 : __real_access(path, mode);
 }
 
 ssize_t __real_read(int file, void* bytes, size_t count);

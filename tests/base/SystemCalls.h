@@ -9,6 +9,7 @@ namespace clipvane::test {
 enum class SystemCall {
     openWithoutName,
     open,
+    access,
     read,
     write,
     fsync,

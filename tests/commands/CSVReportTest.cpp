@@ -5,11 +5,10 @@
 #include <limits>
 
 #include "commands/SampleEvents.h"
-#include "support/Files.h"
 #include "support/RowName.h"
 #include "support/TemporaryFolder.h"
 
-namespace clipvane {
+namespace clipvane::test {
 namespace {
 
 constexpr std::string_view header =
@@ -191,7 +190,7 @@ TEST(WriteCSV, ManyChunks_FileHoldsTheWholeText) {
 
 TEST(WriteCSV, ExistingFile_IsReplacedWhole) {
     const TemporaryFolder folder;
-    putFile(folder / "report.csv", std::string(100000, 'o'));
+    writeContent(folder / "report.csv", std::string(100000, 'o'));
     const TimelineDocument document;
     ASSERT_TRUE(writeCSV(document, folder / "report.csv"));
     EXPECT_EQ(contentOf(folder / "report.csv"), std::string(header) + "\n");
@@ -199,4 +198,4 @@ TEST(WriteCSV, ExistingFile_IsReplacedWhole) {
 }
 
 }  // namespace
-}  // namespace clipvane
+}  // namespace clipvane::test

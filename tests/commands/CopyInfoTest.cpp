@@ -6,7 +6,7 @@
 #include "commands/RecordingCommands.h"
 #include "commands/SampleEvents.h"
 
-namespace clipvane {
+namespace clipvane::test {
 namespace {
 
 using testing::ElementsAre;
@@ -119,4 +119,4 @@ TEST(CopyInfoDeathTest, RowBeyondTheEvents_StopsTheProgram) {
 }
 
 }  // namespace
-}  // namespace clipvane
+}  // namespace clipvane::test

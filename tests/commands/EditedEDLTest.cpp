@@ -6,11 +6,10 @@
 #include <limits>
 
 #include "commands/SampleEvents.h"
-#include "support/Files.h"
 #include "support/RowName.h"
 #include "support/TemporaryFolder.h"
 
-namespace clipvane {
+namespace clipvane::test {
 namespace {
 
 constexpr std::string_view headerLines = "TITLE: Clipvane Export\nFCM: NON-DROP FRAME\n";
@@ -154,4 +153,4 @@ TEST(WriteEDL, ManyChunks_FileHoldsTheWholeText) {
 }
 
 }  // namespace
-}  // namespace clipvane
+}  // namespace clipvane::test

@@ -4,7 +4,7 @@
 #include "commands/RecordingCommands.h"
 #include "commands/SampleEvents.h"
 
-namespace clipvane {
+namespace clipvane::test {
 namespace {
 
 using testing::ElementsAre;
@@ -198,4 +198,4 @@ TEST(EventEditingDeathTest, RemoveARowBeyondTheEvents_StopsTheProgram) {
 }
 
 }  // namespace
-}  // namespace clipvane
+}  // namespace clipvane::test

@@ -5,12 +5,11 @@
 #include "commands/EditedEDL.h"
 #include "commands/RecordingCommands.h"
 #include "commands/SampleEvents.h"
-#include "support/Files.h"
 #include "support/RowName.h"
 #include "support/TemporaryFolder.h"
-#include "support/UnprivilegedUser.h"
+#include "support/WithoutPrivileges.h"
 
-namespace clipvane {
+namespace clipvane::test {
 namespace {
 
 using testing::ElementsAre;
@@ -78,7 +77,7 @@ TEST_P(Export, OtherExtension_IsKept) {
 }
 
 TEST_P(Export, ExistingFile_IsReplacedWhole) {
-    putFile(folder / "out", std::string(100000, 'o'));
+    writeContent(folder / "out", std::string(100000, 'o'));
     exportTo(folder / "out");
     EXPECT_EQ(contentOf(folder / "out"), GetParam().text(commands.document()));
 }
@@ -104,8 +103,7 @@ TEST_P(Export, ReadOnlyFolder_WarnsAndKeepsTheStatus) {
     std::filesystem::create_directory(locked);
     std::filesystem::permissions(locked, std::filesystem::perms{0555});
     {
-        const UnprivilegedUser user;
-        ASSERT_TRUE(user.isEffective());
+        const WithoutPrivileges user;
         exportTo(locked / "out.txt");
     }
     EXPECT_THAT(commands.calls, ElementsAre(savePanel(), "busy", "idle", "warning: Export failed"));
@@ -134,4 +132,4 @@ INSTANTIATE_TEST_SUITE_P(
     RowName());
 
 }  // namespace
-}  // namespace clipvane
+}  // namespace clipvane::test

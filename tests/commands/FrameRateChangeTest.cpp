@@ -6,7 +6,7 @@
 #include "commands/TimelineRate.h"
 #include "support/RowName.h"
 
-namespace clipvane {
+namespace clipvane::test {
 namespace {
 
 using testing::ElementsAre;
@@ -212,4 +212,4 @@ INSTANTIATE_TEST_SUITE_P(Rows, RateDifference,
                          RowName());
 
 }  // namespace
-}  // namespace clipvane
+}  // namespace clipvane::test

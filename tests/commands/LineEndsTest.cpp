@@ -4,7 +4,7 @@
 
 #include "support/RowName.h"
 
-namespace clipvane {
+namespace clipvane::test {
 namespace {
 
 constexpr LineEnd LF = LineEnd::lineFeed;
@@ -61,4 +61,4 @@ INSTANTIATE_TEST_SUITE_P(Rows, WithLineEnds,
                          RowName());
 
 }  // namespace
-}  // namespace clipvane
+}  // namespace clipvane::test

@@ -8,11 +8,10 @@
 #include "commands/Messages.h"
 #include "commands/RecordingCommands.h"
 #include "commands/SampleEvents.h"
-#include "support/Files.h"
 #include "support/RowName.h"
 #include "support/TemporaryFolder.h"
 
-namespace clipvane {
+namespace clipvane::test {
 namespace {
 
 using testing::ElementsAre;
@@ -28,7 +27,7 @@ constexpr std::string_view twoEventsAt25 =
 class OpenTimeline : public testing::Test {
   protected:
     std::filesystem::path file(std::string_view name, std::string_view content) const {
-        putFile(folder / name, content);
+        writeContent(folder / name, content);
         return folder / name;
     }
 
@@ -173,8 +172,9 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         UnreadableRow{"MissingFile", "gone.edl", [](const auto&) {}},
         UnreadableRow{"UnsupportedExtension", "cut.pdf",
-                      [](const auto& path) { putFile(path, twoEventsAt25); }},
-        UnreadableRow{"NoExtension", "cut", [](const auto& path) { putFile(path, twoEventsAt25); }},
+                      [](const auto& path) { writeContent(path, twoEventsAt25); }},
+        UnreadableRow{"NoExtension", "cut",
+                      [](const auto& path) { writeContent(path, twoEventsAt25); }},
         UnreadableRow{"Folder", "folder.edl",
                       [](const auto& path) { std::filesystem::create_directory(path); }},
         UnreadableRow{"FIFO", "fifo.edl",
@@ -263,11 +263,11 @@ TEST(ParsedLine, LargestAndSmallestDouble_ReadBack) {
 
 TEST(OpenTimelineDeathTest, RateBeyondAllCounts_StopsTheProgram) {
     const TemporaryFolder folder;
-    putFile(folder / "hostile.edl", "* FPS: 99999999999999999999\n");
+    writeContent(folder / "hostile.edl", "* FPS: 99999999999999999999\n");
     RecordingCommands commands;
     commands.openPanelAnswer = folder / "hostile.edl";
     EXPECT_DEATH(commands.openTimeline(), "clipvane: ");
 }
 
 }  // namespace
-}  // namespace clipvane
+}  // namespace clipvane::test

@@ -6,7 +6,7 @@
 #include "commands/DocumentCommands.h"
 #include "timecode/FrameRate.h"
 
-namespace clipvane {
+namespace clipvane::test {
 
 /// Commands on a toolkit that writes down each call, and answers as the test wants. It behaves as
 /// the window does: a reloaded table has no selection, and a selected row shows its details.
@@ -82,4 +82,4 @@ class RecordingCommands : public DocumentCommands {
     }
 };
 
-}  // namespace clipvane
+}  // namespace clipvane::test

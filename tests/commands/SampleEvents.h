@@ -5,7 +5,7 @@
 #include "base/UUID.h"
 #include "model/TimelineDocument.h"
 
-namespace clipvane {
+namespace clipvane::test {
 
 /// An event of 100 frames at 25 frames per second.
 inline TimelineEvent sampleEvent(const std::string& number = "001") {
@@ -36,4 +36,4 @@ inline void fillWithSamples(TimelineDocument& document, std::size_t count) {
     document.fpsSource = fpsSourceFile;
 }
 
-}  // namespace clipvane
+}  // namespace clipvane::test

@@ -8,12 +8,11 @@
 #include "commands/CSVReport.h"
 #include "commands/EditedEDL.h"
 #include "commands/SampleEvents.h"
-#include "support/Files.h"
 #include "support/RowName.h"
 #include "support/TemporaryFolder.h"
-#include "support/UnprivilegedUser.h"
+#include "support/WithoutPrivileges.h"
 
-namespace clipvane {
+namespace clipvane::test {
 namespace {
 
 using Write = Result<void> (*)(const TimelineDocument&, const std::filesystem::path&);
@@ -54,7 +53,7 @@ TEST_P(WriteFailure, FolderInTheFilesPlace) {
 }
 
 TEST_P(WriteFailure, FileInTheFoldersPlace) {
-    putFile(folder / "file", "");
+    writeContent(folder / "file", "");
     EXPECT_EQ(
         errorOf(folder / "file/out.txt"),
         (Error{"POSIX", ENOTDIR, "The file \"out.txt\" could not be written: Not a directory."}));
@@ -70,11 +69,11 @@ TEST_P(WriteFailure, FIFOInTheFilesPlace_NoWaitingForAReader) {
 TEST_P(WriteFailure, ReadOnlyFolder_TheOldFileStays) {
     const auto locked = folder / "locked";
     std::filesystem::create_directory(locked);
-    putFile(locked / "out.txt", "old");
+    writeContent(locked / "out.txt", "old");
     std::filesystem::permissions(locked, std::filesystem::perms(0555));
     Error error;
     {
-        const UnprivilegedUser ordinaryUser;
+        const WithoutPrivileges ordinaryUser;
         error = errorOf(locked / "out.txt");
     }
     EXPECT_EQ(error, (Error{"POSIX", EACCES,
@@ -105,7 +104,7 @@ class FileSizeLimit {
 
 TEST_P(WriteFailure, TextBeyondTheFileSizeLimit_TheOldFileStays) {
     fillWithSamples(document, 10000);
-    putFile(folder / "out.txt", "old");
+    writeContent(folder / "out.txt", "old");
     Error error;
     {
         const FileSizeLimit limit(600'000);
@@ -122,4 +121,4 @@ INSTANTIATE_TEST_SUITE_P(Writers, WriteFailure,
                          RowName());
 
 }  // namespace
-}  // namespace clipvane
+}  // namespace clipvane::test

@@ -33,6 +33,8 @@ TEST(TimecodeDeathTest, RateWithoutAFrameBase_IsFatal) {
         EXPECT_DEATH(timecode(1, fps, false), notRounded);
         EXPECT_DEATH(convertTimecode("01:00:00:00", fps, 25), notRounded);
         EXPECT_DEATH(convertTimecode("01:00:00:00", 25, fps), notRounded);
+        EXPECT_DEATH(TimecodeConversion(fps, 25), notRounded);
+        EXPECT_DEATH(TimecodeConversion(25, fps), notRounded);
         EXPECT_DEATH(durationDisplay("01:00:00:00", "01:00:00:00", fps), notRounded);
     }
 }

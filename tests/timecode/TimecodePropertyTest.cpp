@@ -1,8 +1,9 @@
 #include <gtest/gtest.h>
 
-#include <charconv>
-#include <cmath>
+#include <cinttypes>
 #include <cstdint>
+#include <cstdio>
+#include <cstdlib>
 #include <limits>
 #include <numeric>
 #include <random>
@@ -64,6 +65,23 @@ TEST(Timecode, EveryCountOfADay_IsReadBackAndGrowsFieldByField) {
         ASSERT_LT(earlier, text);
         ASSERT_EQ(frames(text, 25), count);
         earlier = text;
+    }
+}
+
+TEST(Timecode, ManyCountsAtManyRates_AreWrittenAsTheCLibraryWritesThem) {
+    Counts counts;
+    for (const std::int64_t base : {1, 2, 24, 25, 30, 60, 99, 100, 101, 120, 1000}) {
+        const std::int64_t hundredHours = 100 * 3600 * base;
+        std::vector<std::int64_t> drawn{0, hundredHours - 1, hundredHours, largest, smallest};
+        for (int i = 0; i < 20'000; ++i) drawn.push_back(counts.draw(base));
+        for (const std::int64_t count : drawn) {
+            const std::int64_t seconds = count / base;
+            char expected[128];
+            std::snprintf(expected, sizeof expected,
+                          "%02" PRId64 ":%02" PRId64 ":%02" PRId64 ";%02" PRId64, seconds / 3600,
+                          seconds / 60 % 60, seconds % 60, count % base);
+            ASSERT_EQ(timecode(count, static_cast<double>(base), true), expected) << count;
+        }
     }
 }
 

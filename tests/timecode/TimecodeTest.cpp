@@ -141,7 +141,8 @@ TEST_P(ConvertTimecode, Row) {
     const auto& row = GetParam();
     EXPECT_EQ(convertTimecode(row.text, row.from, row.to), row.expected);
     std::string inPlace(row.text);
-    EXPECT_EQ(convertTimecodeInPlace(inPlace, row.from, row.to), frames(row.text, 1).has_value());
+    const TimecodeConversion conversion(row.from, row.to);
+    EXPECT_EQ(conversion.convert(inPlace), frames(row.text, 1).has_value());
     EXPECT_EQ(inPlace, row.expected);
 }
 

@@ -3,29 +3,31 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <stdlib.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <time.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <map>
 #include <sstream>
 
 #include "base/Descriptor.h"
-#include "support/Files.h"
 #include "support/RowName.h"
+#include "support/ScopedLocale.h"
 #include "support/TemporaryFolder.h"
-#include "support/UnprivilegedUser.h"
+#include "support/WithoutPrivileges.h"
 #include "ui/LogFile.h"
 
-namespace clipvane {
+namespace clipvane::test {
 namespace {
 
 namespace fs = std::filesystem;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr uid_t ordinaryUser = 65534;  // whom UnprivilegedUser stands for
+constexpr uid_t ordinaryUser = 65534;  // whom WithoutPrivileges stands for
 constexpr uid_t somebodyElse = 65533;
 
 void giveTo(uid_t user, const fs::path& path) {
@@ -74,6 +76,15 @@ TEST(LogLine, AnyTimeZone_StaysUTC) {
     ::tzset();
 }
 
+TEST(LogLine, AnyLocale_GivesTheSameBytes) {
+    const auto time = std::chrono::system_clock::from_time_t(1794790232);
+    for (const char* name : localesOfTests) {
+        const ScopedLocale locale(name);
+        ASSERT_TRUE(locale.isSet()) << name << " is missing in LOCPATH; run the tests with ctest";
+        EXPECT_EQ(logLine(time, "m"), "[2026-11-16 00:50:32 +0000] m\n");
+    }
+}
+
 struct MessageRow {
     std::string name;
     std::string message;
@@ -117,7 +128,7 @@ TEST_F(LogFile, Absent_IsCreatedWithTheLine) {
 }
 
 TEST_F(LogFile, Present_IsAppendedTo) {
-    putFile(log, "of an earlier run\n");
+    writeContent(log, "of an earlier run\n");
     append("one\n");
     append("two\nwith a line break\n");
     EXPECT_EQ(contentOf(log), "of an earlier run\none\ntwo\nwith a line break\n");
@@ -141,10 +152,10 @@ TEST_F(LogFile, TwoProcessesAtOnce_EveryLineStaysWhole) {
 }
 
 TEST_F(LogFile, ReadOnly_StaysAsItIs) {
-    putFile(log, "old\n");
+    writeContent(log, "old\n");
     fs::permissions(log, fs::perms{0444});
     if (::geteuid() == 0) giveTo(ordinaryUser, log);
-    const UnprivilegedUser user;
+    const WithoutPrivileges user;
     append("one\n");
     EXPECT_EQ(contentOf(log), "old\n");
     EXPECT_THAT(folder.names(), ElementsAre("test.log"));
@@ -152,9 +163,23 @@ TEST_F(LogFile, ReadOnly_StaysAsItIs) {
 
 TEST_F(LogFile, ReadOnlyFolder_NothingIsCreated) {
     fs::permissions(folder.path(), fs::perms{0555});
-    const UnprivilegedUser user;
+    const WithoutPrivileges user;
     append("one\n");
     EXPECT_THAT(folder.names(), IsEmpty());
+}
+
+TEST_F(LogFile, FileSizeLimit_NothingMoreIsWritten) {
+    const auto appendBeyondTheLimit = [&] {
+        std::signal(SIGXFSZ, SIG_IGN);
+        const rlimit limit{10, 10};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+        append("123456\n");
+        append("123456\n");
+        append("123456\n");
+        ::_exit(0);
+    };
+    EXPECT_EXIT(appendBeyondTheLimit(), testing::ExitedWithCode(0), "");
+    EXPECT_EQ(contentOf(log), "123456\n123");
 }
 
 TEST_F(LogFile, MissingFolder_NothingHappens) {
@@ -163,7 +188,7 @@ TEST_F(LogFile, MissingFolder_NothingHappens) {
 }
 
 TEST_F(LogFile, OwnLinkToAnOwnFile_IsFollowed) {
-    putFile(folder / "real.log", "old\n");
+    writeContent(folder / "real.log", "old\n");
     fs::create_symlink(folder / "real.log", log);
     append("one\n");
     EXPECT_EQ(contentOf(folder / "real.log"), "old\none\n");
@@ -174,7 +199,7 @@ TEST_F(LogFile, OwnRelativeLinks_AreFollowed) {
     fs::create_directory(folder / "inner");
     fs::create_symlink("inner/second", log);
     fs::create_symlink("../real.log", folder / "inner/second");
-    putFile(folder / "real.log", "old\n");
+    writeContent(folder / "real.log", "old\n");
     append("one\n");
     EXPECT_EQ(contentOf(folder / "real.log"), "old\none\n");
 }
@@ -232,7 +257,7 @@ class ForeignLog : public LogFile {
 };
 
 TEST_F(ForeignLog, FileOfAnotherUser_IsNotWritten) {
-    putFile(log, "theirs\n");
+    writeContent(log, "theirs\n");
     fs::permissions(log, fs::perms{0666});
     giveTo(somebodyElse, log);
     append("one\n");
@@ -240,7 +265,7 @@ TEST_F(ForeignLog, FileOfAnotherUser_IsNotWritten) {
 }
 
 TEST_F(ForeignLog, LinkOfAnotherUserToAnOwnFile_IsNotFollowed) {
-    putFile(folder / "mine", "mine\n");
+    writeContent(folder / "mine", "mine\n");
     fs::create_symlink("mine", log);
     giveTo(somebodyElse, log);
     append("one\n");
@@ -255,7 +280,7 @@ TEST_F(ForeignLog, DanglingLinkOfAnotherUser_NothingIsCreated) {
 }
 
 TEST_F(ForeignLog, OwnLinkToAFileOfAnotherUser_IsNotWritten) {
-    putFile(folder / "theirs", "theirs\n");
+    writeContent(folder / "theirs", "theirs\n");
     giveTo(somebodyElse, folder / "theirs");
     fs::create_symlink("theirs", log);
     append("one\n");
@@ -263,7 +288,7 @@ TEST_F(ForeignLog, OwnLinkToAFileOfAnotherUser_IsNotWritten) {
 }
 
 TEST_F(ForeignLog, OwnLinkToALinkOfAnotherUser_IsNotFollowed) {
-    putFile(folder / "mine", "mine\n");
+    writeContent(folder / "mine", "mine\n");
     fs::create_symlink("mine", folder / "theirs");
     giveTo(somebodyElse, folder / "theirs");
     fs::create_symlink("theirs", log);
@@ -272,4 +297,4 @@ TEST_F(ForeignLog, OwnLinkToALinkOfAnotherUser_IsNotFollowed) {
 }
 
 }  // namespace
-}  // namespace clipvane
+}  // namespace clipvane::test

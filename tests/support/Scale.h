@@ -1,0 +1,29 @@
+#pragma once
+
+#include <cstddef>
+
+namespace clipvane::test {
+
+#if defined(__SANITIZE_ADDRESS__)
+inline constexpr bool isInstrumented = true;
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+inline constexpr bool isInstrumented = true;
+#else
+inline constexpr bool isInstrumented = false;
+#endif
+#else
+inline constexpr bool isInstrumented = false;
+#endif
+
+/// The number of generated cases that a test looks at: all of `count` in an optimised build, a
+/// quarter of them in a debug or a sanitizer build.
+constexpr std::size_t scaled(std::size_t count) {
+#ifdef NDEBUG
+    return isInstrumented ? count / 4 : count;
+#else
+    return count / 4;
+#endif
+}
+
+}  // namespace clipvane::test

@@ -1,0 +1,60 @@
+#include "ui/AlertDialog.h"
+
+#include <gtest/gtest.h>
+
+#include <QPushButton>
+#include <QTest>
+
+#include "ui/TextLabel.h"
+
+namespace clipvane {
+namespace {
+
+const Alert reminder{Alert::Style::informational, "Check Project Frame Rate",
+                     "Please make sure to set the right project frame rate."};
+
+QStringList texts(const QDialog& dialog) {
+    QStringList result;
+    for (const auto* label : dialog.findChildren<QLabel*>()) result << label->text();
+    return result;
+}
+
+TEST(AlertDialog, ShowsItsTextsAndOneButton) {
+    const AlertDialog dialog(reminder, nullptr);
+    EXPECT_EQ(texts(dialog),
+              (QStringList{"Check Project Frame Rate",
+                           "Please make sure to set the right project frame rate."}));
+    ASSERT_EQ(dialog.findChildren<QPushButton*>().size(), 1);
+    EXPECT_EQ(dialog.findChild<QPushButton*>()->text(), "OK");
+    EXPECT_TRUE(dialog.findChild<QPushButton*>()->isDefault());
+}
+
+TEST(AlertDialog, ReturnAndEscape_DismissIt) {
+    for (const auto key : {Qt::Key_Return, Qt::Key_Escape, Qt::Key_Space}) {
+        AlertDialog dialog(reminder, nullptr);
+        dialog.show();
+        dialog.findChild<QPushButton*>()->setFocus();
+        QTest::keyClick(dialog.findChild<QPushButton*>(), key);
+        EXPECT_FALSE(dialog.isVisible()) << key;
+    }
+}
+
+TEST(AlertDialog, MarkupInTheReason_IsShownAsText) {
+    const std::string reason = "The file \"<img src=x><b>a</b>.edl\" could not be read.";
+    const AlertDialog dialog({Alert::Style::warning, "Could not open timeline", reason}, nullptr);
+    for (const auto* label : dialog.findChildren<QLabel*>()) {
+        EXPECT_EQ(label->textFormat(), Qt::PlainText);
+    }
+    EXPECT_EQ(texts(dialog)[1].toStdString(), reason);
+}
+
+TEST(AlertDialog, VeryLongReason_StaysOnTheScreen) {
+    AlertDialog dialog({Alert::Style::warning, "Export failed", std::string(100'000, 'x')},
+                       nullptr);
+    dialog.show();
+    EXPECT_LT(dialog.width(), 500);
+    EXPECT_LT(dialog.height(), 500);
+}
+
+}  // namespace
+}  // namespace clipvane

@@ -1,0 +1,99 @@
+#include "ui/ClipvaneStyle.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPainter>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QStyleOption>
+#include <QTest>
+
+#include "ui/Colours.h"
+#include "ui/Palette.h"
+
+namespace clipvane {
+namespace {
+
+QImage imageOf(QWidget& widget) {
+    widget.show();
+    return widget.grab().toImage();
+}
+
+TEST(ClipvaneStyle, ProgramIsDark) {
+    EXPECT_EQ(QApplication::palette().color(QPalette::Window), colours::rgb(0.07, 0.08, 0.09));
+    EXPECT_GT(QApplication::palette().color(QPalette::WindowText).lightness(), 200);
+    EXPECT_FALSE(QApplication::desktopSettingsAware());
+}
+
+TEST(ClipvaneStyle, ToolkitsOwnQuestion_ShowsMarkupAsText) {
+    QMessageBox box(QMessageBox::Warning, "Replace?", "<b>x</b>.csv already exists.");
+    box.show();
+    EXPECT_EQ(box.textFormat(), Qt::PlainText);
+}
+
+TEST(ClipvaneStyle, NothingToScroll_BarKeepsItsPlaceWithoutAThumb) {
+    QWidget window;
+    QScrollBar bar(Qt::Vertical, &window);
+    bar.resize(12, 200);
+    bar.setRange(0, 0);
+    const QColor ground = imageOf(window).pixelColor(6, 20);
+    bar.setRange(0, 100);
+    bar.setPageStep(100);
+    EXPECT_NE(imageOf(window).pixelColor(6, 20), ground);
+    EXPECT_EQ(imageOf(window).pixelColor(6, 180), ground);
+}
+
+TEST(ClipvaneStyle, ThumbFollowsTheValue) {
+    QScrollBar bar(Qt::Vertical);
+    bar.resize(12, 200);
+    bar.setRange(0, 100);
+    bar.setPageStep(100);
+    QStyleOptionSlider option;
+    option.initFrom(&bar);
+    option.orientation = Qt::Vertical;
+    option.maximum = 100;
+    option.pageStep = 100;
+    const auto thumb = [&] {
+        return bar.style()->subControlRect(QStyle::CC_ScrollBar, &option,
+                                           QStyle::SC_ScrollBarSlider, &bar);
+    };
+    EXPECT_EQ(thumb(), QRect(0, 0, 12, 100));
+    option.sliderPosition = 100;
+    EXPECT_EQ(thumb(), QRect(0, 100, 12, 100));
+    option.maximum = 1'000'000'000;
+    option.sliderPosition = 0;
+    EXPECT_EQ(thumb().height(), 36);
+}
+
+class ButtonLook : public testing::Test {
+  protected:
+    QColor fill(QStyle::State state) {
+        QStyleOptionButton option;
+        option.rect = {0, 0, 100, 32};
+        option.state = QStyle::State_Enabled | state;
+        QImage image(100, 32, QImage::Format_ARGB32);
+        image.fill(Qt::black);
+        QPainter painter(&image);
+        QApplication::style()->drawPrimitive(QStyle::PE_PanelButtonCommand, &option, &painter);
+        edge = image.pixelColor(50, 0);
+        return image.pixelColor(50, 16);
+    }
+    QColor edge;
+};
+
+TEST_F(ButtonLook, HoverPressAndKeyboardFocus_Show) {
+    const QColor plain = fill(QStyle::State_None);
+    const QColor plainEdge = edge;
+    EXPECT_GT(fill(QStyle::State_MouseOver).lightness(), plain.lightness());
+    EXPECT_LT(fill(QStyle::State_Sunken).lightness(), plain.lightness());
+    fill(QStyle::State_HasFocus);
+    EXPECT_EQ(edge, plainEdge) << "a click shows no ring";
+    fill(QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange);
+    EXPECT_EQ(edge, colours::focusRing);
+}
+
+}  // namespace
+}  // namespace clipvane

@@ -1,0 +1,62 @@
+#include "ui/TextLabel.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QHelpEvent>
+#include <QToolTip>
+
+#include "ui/Fonts.h"
+
+namespace clipvane {
+namespace {
+
+class TextLabelTest : public testing::Test {
+  protected:
+    QString toolTipOf(QWidget& widget) {
+        QToolTip::hideText();
+        widget.show();
+        QHelpEvent help(QEvent::ToolTip, {2, 2}, widget.mapToGlobal(QPoint(2, 2)));
+        QApplication::sendEvent(&widget, &help);
+        return QToolTip::text();
+    }
+
+    TextLabel label{"", systemFont(22, QFont::Bold), Qt::white};
+};
+
+TEST_F(TextLabelTest, TextThatFits_NoToolTip) {
+    label.setText("short");
+    label.resize(300, 30);
+    EXPECT_FALSE(label.isElided());
+    EXPECT_EQ(toolTipOf(label), "");
+}
+
+TEST_F(TextLabelTest, TextTooLong_WholeTextAsToolTipEscaped) {
+    label.setText("<b>" + QString(100, 'x') + "</b>");
+    label.resize(100, 30);
+    EXPECT_TRUE(label.isElided());
+    EXPECT_TRUE(toolTipOf(label).contains("&lt;b&gt;xxx"));
+}
+
+TEST_F(TextLabelTest, AtMostTwoLines_TheRestIsCutOff) {
+    label.setMaximumLines(2);
+    const int line = label.fontMetrics().lineSpacing();
+    label.setText("Event 001: short");
+    EXPECT_EQ(label.heightForWidth(360), line);
+    label.setText("Event 001: A001_C001_1114QX_with_a_longer_name");
+    EXPECT_EQ(label.heightForWidth(360), 2 * line);
+    label.setText("Event 001: " + QString("name ").repeated(200));
+    EXPECT_EQ(label.heightForWidth(360), 2 * line);
+    label.resize(360, 2 * line);
+    EXPECT_TRUE(label.isElided());
+}
+
+TEST_F(TextLabelTest, MegabyteOfText_CostsLittle) {
+    label.setText(QString(1'000'000, 'x'));
+    label.resize(360, 30);
+    EXPECT_LT(label.sizeHint().width(), 40'000);
+    EXPECT_FALSE(label.grab().isNull());
+}
+
+}  // namespace
+}  // namespace clipvane
