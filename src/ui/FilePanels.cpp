@@ -1,8 +1,11 @@
 #include "ui/FilePanels.h"
 
+#include <QAbstractItemView>
+#include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <utility>
 
 #include "ui/Text.h"
 
@@ -15,9 +18,21 @@ constexpr const char* timelineFilter =
     "*.[fF][cC][pP][xX][mM][lL] "
     "*.[xX][mM][eE][mM][lL])";
 
+/// The toolkit's panel leaves the lists of its pop-ups without a name for assistive technology.
+void nameLists(const QFileDialog& panel) {
+    for (const auto& [popup, name] :
+         {std::pair{"lookInCombo", "Folders"}, std::pair{"fileTypeCombo", "File types"}}) {
+        if (auto* box = panel.findChild<QComboBox*>(popup)) box->view()->setAccessibleName(name);
+    }
+}
+
 std::optional<std::filesystem::path> run(QFileDialog& panel, QString& folder) {
     panel.setDirectory(folder.isEmpty() ? QDir::homePath() : folder);
-    if (panel.exec() != QDialog::Accepted || panel.selectedFiles().isEmpty()) return std::nullopt;
+    nameLists(panel);
+    const bool accepted = panel.exec() == QDialog::Accepted;
+    // A panel and its question that go at once leave some window managers with no active window.
+    panel.parentWidget()->activateWindow();
+    if (!accepted || panel.selectedFiles().isEmpty()) return std::nullopt;
     const QString file = panel.selectedFiles().first();
     folder = QFileInfo(file).absolutePath();
     return std::filesystem::path(QFile::encodeName(file).toStdString());

@@ -1,8 +1,10 @@
 """A person at the desk: starts the program, looks at it, and works it by keyboard and mouse alone."""
 
 import os
+import shutil
 import subprocess
 import sys
+import time
 import traceback
 from contextlib import contextmanager
 from pathlib import Path
@@ -46,7 +48,7 @@ def type_text(text):
 
 
 def click_at(x, y, button=1):
-    xdotool("mousemove", "--sync", x, y, "click", button)
+    xdotool("mousemove", x, y, "click", button)
 
 
 def clipboard():
@@ -66,7 +68,8 @@ class Desk:
     def __init__(self, program, output):
         self.program = str(Path(program).resolve())
         self.output = Path(output).resolve()
-        self.output.mkdir(parents=True, exist_ok=True)
+        shutil.rmtree(self.output, ignore_errors=True)
+        self.output.mkdir(parents=True)
         self.process = None
         self.app = None
         self.step_name = "start"
@@ -74,12 +77,14 @@ class Desk:
 
     # Runs.
 
-    def start(self, arguments=(), environment=None, command=None):
+    def start(self, arguments=(), environment=None, command=None, accessible=True):
         with open(self.output / "stdout", "wb") as out, open(self.output / "stderr", "wb") as err:
             self.process = subprocess.Popen(
                 [*(command or [self.program]), *arguments], stdin=subprocess.DEVNULL, stdout=out,
                 stderr=err, cwd=self.output, env={**os.environ, **(environment or {})})
         self.await_window("Clipvane")
+        if not accessible:
+            return
         self.app = access.application(self.process.pid)
         self.known = {}
         self.status_line = self.find("label", "Open an EDL, XML, FCPXML, or XMEML timeline file.")
@@ -170,6 +175,10 @@ class Desk:
     def await_focus(self, role, name):
         wait_equal(self.focused, (role, name), "the control with the keyboard")
 
+    def rate(self):
+        """What the pop-up shows."""
+        return self.find("combo box", "Global FPS").description
+
     def comments(self):
         return access.text_of(self.find("text", "Comments"))
 
@@ -226,8 +235,9 @@ class Desk:
     @contextmanager
     def step(self, name):
         self.step_name = name
-        print(f"- {name}", flush=True)
+        begun = time.monotonic()
         yield
+        print(f"{time.monotonic() - begun:5.1f} s  {name}", flush=True)
 
     def log_lines(self):
         return LOG.read_text().splitlines() if LOG.exists() else []
