@@ -7,8 +7,6 @@ from waiting import wait_for
 
 GONE = (LookupError, NotImplementedError, GLib.Error)
 
-PIXEL_INSET = 4  # from a cell's corner to where no text is
-
 
 def application(pid):
     """The program's root, as soon as it is there. Nothing is cached: the program changes all the time."""

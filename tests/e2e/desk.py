@@ -68,8 +68,8 @@ class Desk:
     def __init__(self, program, output):
         self.program = str(Path(program).resolve())
         self.output = Path(output).resolve()
-        shutil.rmtree(self.output, ignore_errors=True)
-        self.output.mkdir(parents=True)
+        self.output.mkdir(parents=True, exist_ok=True)
+        self.scratch = Path(os.environ["TMPDIR"])
         self.process = None
         self.app = None
         self.step_name = "start"
@@ -78,10 +78,10 @@ class Desk:
     # Runs.
 
     def start(self, arguments=(), environment=None, command=None, accessible=True):
-        with open(self.output / "stdout", "wb") as out, open(self.output / "stderr", "wb") as err:
+        with open(self.scratch / "stdout", "wb") as out, open(self.scratch / "stderr", "wb") as err:
             self.process = subprocess.Popen(
                 [*(command or [self.program]), *arguments], stdin=subprocess.DEVNULL, stdout=out,
-                stderr=err, cwd=self.output, env={**os.environ, **(environment or {})})
+                stderr=err, cwd=self.scratch, env={**os.environ, **(environment or {})})
         self.await_window("Clipvane")
         if not accessible:
             return
@@ -97,7 +97,7 @@ class Desk:
         wait_for(lambda: not self.is_running(), "the program's end")
         assert self.process.returncode == 0, f"exit status {self.process.returncode}"
         for name in ("stdout", "stderr"):
-            written = (self.output / name).read_bytes()
+            written = (self.scratch / name).read_bytes()
             assert written == b"", f"the program wrote to its {name}: {written!r}"
 
     def end(self):
@@ -111,7 +111,7 @@ class Desk:
     def await_window(self, title):
         def active():
             if self.process.poll() is not None:
-                err = (self.output / "stderr").read_text(errors="replace")
+                err = (self.scratch / "stderr").read_text(errors="replace")
                 raise AssertionError(f"the program ended: {self.process.returncode} {err}")
             return active_title() == title
 
@@ -243,12 +243,12 @@ class Desk:
         return LOG.read_text().splitlines() if LOG.exists() else []
 
 
-def run_test(desk, test):
-    """Runs a test; a failure names its step and leaves a picture."""
+def run(desk, session):
+    """Runs a session; a failure names its step and leaves a picture."""
     if not HAS_OWN_LOG:
-        print("no private /tmp here (neither root nor user namespaces): the log is not checked")
+        print("no /tmp of its own here (neither root nor user namespaces): the log is not checked")
     try:
-        test(desk)
+        session(desk)
     except BaseException:
         traceback.print_exc()
         picture = desk.output / "failure.png"
@@ -257,4 +257,11 @@ def run_test(desk, test):
         sys.exit(1)
     finally:
         desk.end()
+
+
+def run_test(session):
+    """Runs a test of the program and in the folder that the command line names."""
+    program, output = sys.argv[1:3]
+    shutil.rmtree(output, ignore_errors=True)
+    run(Desk(program, output), session)
     print("passed")

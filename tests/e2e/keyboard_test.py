@@ -1,11 +1,10 @@
 """The program by keyboard alone, and the keys and wheel turns that must do nothing."""
 
-import sys
 from pathlib import Path
 
 import expected
 from access import centre
-from desk import Desk, click_at, press, run_test, type_text
+from desk import click_at, press, run_test, type_text
 from waiting import stays, wait_equal, wait_for
 
 PIER = Path(__file__).resolve().parent / "timelines" / "pier.edl"
@@ -92,7 +91,7 @@ def closed_popup(desk):
             assert desk.rate() == "25 fps" and desk.status() == LOADED, (desk.rate(), desk.status())
 
 
-def choose_current_desk.rate():
+def choose_current_rate(desk):
     with desk.step("choosing the current rate again counts"):
         press("space")
         wait_equal(desk.open_list, expected.RATES, "the open list")
@@ -141,7 +140,7 @@ def keyboard(desk):
     tab_order(desk)
     list_keys(desk)
     closed_popup(desk)
-    choose_current_desk.rate()
+    choose_current_rate(desk)
     buttons(desk)
     comments(desk)
     with desk.step("leave"):
@@ -149,4 +148,4 @@ def keyboard(desk):
         desk.await_end()
 
 
-run_test(Desk(sys.argv[1], sys.argv[2]), keyboard)
+run_test(keyboard)

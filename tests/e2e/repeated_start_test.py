@@ -2,7 +2,7 @@
 
 import sys
 
-from desk import Desk, run_test
+from desk import run_test
 
 STARTS = int(sys.argv[3])
 
@@ -15,4 +15,4 @@ def repeatedly(desk):
             desk.await_end()
 
 
-run_test(Desk(sys.argv[1], sys.argv[2]), repeatedly)
+run_test(repeatedly)

@@ -1,55 +1,19 @@
 """A person's whole session with the program, from its start to its end."""
 
 import os
-import re
-import sys
 from pathlib import Path
 
 import expected
-from access import PIXEL_INSET, centre, children_of, name_of, rectangle, text_of
-from desk import (HAS_OWN_LOG, Desk, active_title, click_at, clipboard, press, put_on_clipboard,
-                  run_test, type_text, window_titles, xdotool)
-from screen import Screenshot
+from access import children_of, rectangle, text_of
+from checks import (MARKED, PANEL, ROOT, SELECTED, SELECTED_ALTERNATE, SELECTED_MARKED, TABLE,
+                    TABLE_ALTERNATE, check_content, check_log, check_pixel, check_row_colour,
+                    files_below)
+from desk import (click_at, clipboard, press, put_on_clipboard, run_test, type_text, window_titles,
+                  xdotool)
 from waiting import stays, wait_equal, wait_for
 
 TIMELINES = Path(__file__).resolve().parent / "timelines"
 NOTHING_YET = "Open an EDL, XML, FCPXML, or XMEML timeline file."
-LOG_LINE = re.compile(r"\[\d{4}-\d{2}-\d{2} \d{2}:\d{2}:\d{2} \+0000\] (.*)")
-
-ROOT = (18, 20, 23)
-PANEL = (27, 29, 33)
-TABLE = (19, 22, 26)
-TABLE_ALTERNATE = (25, 28, 32)
-SELECTED = (42, 81, 122)  # 95 percent of (43, 84, 127.5), on the table's colour
-MARKED = (73, 59, 22)  # 80 percent of (87, 69, 20), on the table's colour
-
-
-def check_log(desk, *messages):
-    if not HAS_OWN_LOG:
-        return
-    desk.log += messages
-    lines = [LOG_LINE.fullmatch(line) for line in desk.log_lines()]
-    assert all(lines), f"a line of the log is not '[time] text': {desk.log_lines()}"
-    wait_equal(lambda: [LOG_LINE.fullmatch(line)[1] for line in desk.log_lines()], desk.log, "the log")
-
-
-def files_below(folder):
-    return sorted(str(path) for path in Path(folder).rglob("*"))
-
-
-def check_pixel(x, y, colour, what):
-    """The colour as painted: a component may be off by the rounding of two blends."""
-
-    def seen():
-        return Screenshot().pixel(x, y)
-
-    wait_for(lambda: all(abs(a - b) <= 1 for a, b in zip(seen(), colour)),
-             f"{what} at {x}, {y} to be {colour}; it is {seen()}")
-
-
-def check_row_colour(desk, row, colour, what):
-    left, top, _, _ = rectangle(desk.cell(row, 0))
-    check_pixel(left + PIXEL_INSET, top + PIXEL_INSET, colour, what)
 
 
 def dismiss(desk, *texts):
@@ -133,7 +97,7 @@ def walk_the_list(desk):
             number, name = expected.PIER[row][:2]
             desk.await_detail_title(f"Event {number}: {name}")
         assert desk.details()[1] == expected.DETAILS_OF_002, desk.details()
-        check_row_colour(desk, 1, (43, 81, 123), "the selected second row")
+        check_row_colour(desk, 1, SELECTED_ALTERNATE, "the selected second row")
         check_row_colour(desk, 0, TABLE, "the first row, no longer selected")
 
 
@@ -204,19 +168,15 @@ def copy_info(desk):
         stays(lambda: clipboard() == expected.COPIED, "the clipboard")
 
 
-def export(desk, button, default_name, path, content):
+def export(desk, button, default_name, folder, path, content):
     desk.button(button)
     desk.await_window("Export")
+    desk.find("combo box", str(folder))
     wait_equal(lambda: text_of(desk.find("text", "File name:")), default_name, "the preset name")
     desk.choose_file("Export", path)
     desk.await_window("Clipvane")
     desk.await_status(f"Exported {path.name}.")
     check_content(path, content)
-
-
-def check_content(path, content):
-    written = path.read_bytes().decode()
-    assert written == content, f"{path.name} holds\n{written}\ninstead of\n{content}"
 
 
 def export_both(desk):
@@ -225,9 +185,10 @@ def export_both(desk):
         desk.click_row(2)
         desk.click("text", "Comments")
         type_text("last words")
-        export(desk, "Export CSV", "timeline-events.csv", report, expected.CSV)
-    with desk.step("export an EDL, under a name without extension"):
-        export(desk, "Export EDL", "edited-timeline.edl", desk.output / "edited", expected.EDL)
+        export(desk, "Export CSV", "timeline-events.csv", TIMELINES, report, expected.CSV)
+    with desk.step("export an EDL into the folder used last, under a name without extension"):
+        export(desk, "Export EDL", "edited-timeline.edl", desk.output, desk.output / "edited",
+               expected.EDL)
     with desk.step("replacing a file asks first: No keeps it"):
         report.write_text("earlier")
         desk.button("Export CSV")
@@ -313,7 +274,7 @@ def open_xml(desk):
         check_row_colour(desk, 1, MARKED, "the marked row")
         desk.picture("marked")
         desk.click_row(1)
-        check_row_colour(desk, 1, (45, 83, 122), "the selected marked row")
+        check_row_colour(desk, 1, SELECTED_MARKED, "the selected marked row")
     with desk.step("a click below the last row clears the selection"):
         left, top, width, height = rectangle(desk.cell(2, 1))
         click_at(left + 20, top + 3 * height)
@@ -387,4 +348,4 @@ def session(desk):
         assert files_below(os.environ["HOME"]) == home, files_below(os.environ["HOME"])
 
 
-run_test(Desk(sys.argv[1], sys.argv[2]), session)
+run_test(session)

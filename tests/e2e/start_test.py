@@ -1,11 +1,10 @@
 """Starting: nothing on the command line counts, and no trouble with the log is in the way."""
 
 import os
-import sys
 
 import expected
 from access import rectangle
-from desk import HAS_OWN_LOG, LOG, Desk, run_test
+from desk import HAS_OWN_LOG, LOG, run_test
 from screen import Screenshot
 from waiting import wait_for
 
@@ -76,4 +75,4 @@ def starting(desk):
     appends_to_log(desk)
 
 
-run_test(Desk(sys.argv[1], sys.argv[2]), starting)
+run_test(starting)

@@ -1,9 +1,8 @@
 """The sizes of both windows, frames counted: at the start on this screen, and at their least."""
 
 import subprocess
-import sys
 
-from desk import Desk, active_window, run_test, xdotool
+from desk import active_window, run_test, xdotool
 from waiting import wait_equal
 
 WIDTH, HEIGHT = map(int, xdotool("getdisplaygeometry").stdout.split())
@@ -55,4 +54,4 @@ def sizes(desk):
         desk.await_end()
 
 
-run_test(Desk(sys.argv[1], sys.argv[2]), sizes)
+run_test(sizes)
