@@ -7,7 +7,8 @@ from gi.repository import GLib
 
 import expected
 from access import children_of, is_showing, name_of, role_of, states_of
-from desk import press, run_test
+from desk import run_test
+from hands import press
 from waiting import wait_for
 
 PIER = Path(__file__).resolve().parent / "timelines" / "pier.edl"

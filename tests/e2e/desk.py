@@ -1,4 +1,4 @@
-"""A person at the desk: starts the program, looks at it, and works it by keyboard and mouse alone."""
+"""One run of the program, as a person at the desk sees and works it."""
 
 import os
 import shutil
@@ -10,56 +10,12 @@ from contextlib import contextmanager
 from pathlib import Path
 
 import access
+from hands import active_title, click_at, press, type_text
 from screen import save_screen
 from waiting import wait_equal, wait_for
 
 LOG = Path("/tmp/clipvane-native.log")
 HAS_OWN_LOG = os.environ.get("CLIPVANE_PRIVATE_TMP") == "1"
-KEY_PAUSE = "4"  # ms between typed characters
-
-
-def xdotool(*arguments):
-    return subprocess.run(["xdotool", *map(str, arguments)], capture_output=True, text=True)
-
-
-def active_title():
-    """The title of the window that has the keyboard, or an empty text."""
-    answer = xdotool("getactivewindow", "getwindowname")
-    return answer.stdout.rstrip("\n") if answer.returncode == 0 else ""
-
-
-def active_window():
-    return xdotool("getactivewindow").stdout.strip()
-
-
-def window_titles():
-    """The titles of all windows on the screen, as the window manager lists them."""
-    ids = subprocess.run(["xprop", "-root", "-notype", "_NET_CLIENT_LIST"],
-                         capture_output=True, text=True).stdout.partition("#")[2].split(",")
-    return sorted(xdotool("getwindowname", i.strip()).stdout.rstrip("\n") for i in ids if i.strip())
-
-
-def press(*keys):
-    xdotool("key", "--clearmodifiers", "--delay", KEY_PAUSE, *keys)
-
-
-def type_text(text):
-    xdotool("type", "--clearmodifiers", "--delay", KEY_PAUSE, text)
-
-
-def click_at(x, y, button=1):
-    xdotool("mousemove", x, y, "click", button)
-
-
-def clipboard():
-    answer = subprocess.run(["xclip", "-selection", "clipboard", "-o", "-t", "UTF8_STRING"],
-                            capture_output=True, timeout=20)
-    return answer.stdout.decode() if answer.returncode == 0 else None
-
-
-def put_on_clipboard(text):
-    subprocess.run(["xclip", "-selection", "clipboard", "-i"], input=text.encode(), check=True,
-                   stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
 
 
 class Desk:

@@ -4,7 +4,8 @@ from pathlib import Path
 
 import expected
 from access import centre
-from desk import click_at, press, run_test, type_text
+from desk import run_test
+from hands import click_at, press, type_text
 from waiting import stays, wait_equal, wait_for
 
 PIER = Path(__file__).resolve().parent / "timelines" / "pier.edl"

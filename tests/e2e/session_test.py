@@ -8,8 +8,8 @@ from access import children_of, rectangle, text_of
 from checks import (MARKED, PANEL, ROOT, SELECTED, SELECTED_ALTERNATE, SELECTED_MARKED, TABLE,
                     TABLE_ALTERNATE, check_content, check_log, check_pixel, check_row_colour,
                     files_below)
-from desk import (click_at, clipboard, press, put_on_clipboard, run_test, type_text, window_titles,
-                  xdotool)
+from desk import run_test
+from hands import click_at, clipboard, press, put_on_clipboard, type_text, window_titles, xdotool
 from waiting import stays, wait_equal, wait_for
 
 TIMELINES = Path(__file__).resolve().parent / "timelines"

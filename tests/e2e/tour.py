@@ -3,7 +3,8 @@
 import sys
 from pathlib import Path
 
-from desk import Desk, active_window, clipboard, press, run, type_text
+from desk import Desk, run
+from hands import active_window, clipboard, press, type_text
 from screen import save_screen
 from waiting import wait_equal
 

@@ -2,7 +2,8 @@
 
 import subprocess
 
-from desk import active_window, run_test, xdotool
+from desk import run_test
+from hands import active_window, xdotool
 from waiting import wait_equal
 
 WIDTH, HEIGHT = map(int, xdotool("getdisplaygeometry").stdout.split())
