@@ -3,6 +3,7 @@
 #include <malloc.h>
 
 #include <QApplication>
+#include <QClipboard>
 #include <QKeyEvent>
 
 #include "base/Fatal.h"
@@ -89,8 +90,9 @@ Milliseconds WindowUnderLoad::changeRate(const QString& title) {
 
 void WindowUnderLoad::setComment(const QString& text) {
     auto& editor = find<CommentsView>();
+    QGuiApplication::clipboard()->setText(text);
     editor.selectAll();
-    editor.insertPlainText(text);
+    editor.paste();
     auto cursor = editor.textCursor();
     cursor.setPosition(static_cast<int>(text.size() / 2));
     editor.setTextCursor(cursor);

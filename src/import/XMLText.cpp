@@ -17,9 +17,10 @@ std::string replacingAll(std::string_view text, std::string_view what, std::stri
     }
 }
 
-/// Whether a text may hold what is replaced. The rational seconds that most texts are do not.
+/// Whether a text may hold what is replaced. Most are numbers, and hold neither character.
 bool mayNeedReplacing(std::string_view text) {
-    return text.find("//") != std::string_view::npos || text.find('%') != std::string_view::npos;
+    constexpr auto npos = std::string_view::npos;
+    return text.find('%') != npos || (text.find(':') != npos && text.find("//") != npos);
 }
 
 }  // namespace

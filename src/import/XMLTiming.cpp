@@ -1,17 +1,11 @@
-#include <algorithm>
-#include <array>
-#include <cmath>
-
 #include "base/Number.h"
 #include "import/CommonTimelineXMLDelegate.h"
 #include "import/XMLText.h"
+#include "timecode/FrameRate.h"
+#include "timecode/TwoDigitFields.h"
 
 namespace clipvane {
 namespace {
-
-std::int64_t frameBase(double fps) {
-    return std::max<std::int64_t>(roundToInteger(fps), 1);
-}
 
 bool holdsColon(std::string_view text) {
     return text.find(':') != std::string_view::npos;
@@ -23,8 +17,8 @@ bool isNegativeNumber(std::string_view text) {
     return number && *number < 0;
 }
 
-std::optional<std::int64_t> timecodeFrames(std::string_view text, double fps) {
-    std::array<std::int64_t, 4> fields{};  // hours, minutes, seconds, frames
+std::optional<TimecodeFields> lenientFields(std::string_view text) {
+    TimecodeFields fields{};
     std::size_t count = 0;
     while (true) {
         std::size_t length = 0;
@@ -37,9 +31,17 @@ std::optional<std::int64_t> timecodeFrames(std::string_view text, double fps) {
         text.remove_prefix(length + 1);
     }
     if (count != fields.size()) return std::nullopt;
-    const std::int64_t minutes = addChecked(multiplyChecked(fields[0], 60), fields[1]);
-    const std::int64_t seconds = addChecked(multiplyChecked(minutes, 60), fields[2]);
-    return addChecked(multiplyChecked(seconds, frameBase(fps)), fields[3]);
+    return fields;
+}
+
+std::optional<std::int64_t> timecodeFrames(std::string_view text, double fps) {
+    auto fields = readTwoDigitFields(text);
+    if (!fields) fields = lenientFields(text);
+    if (!fields) return std::nullopt;
+    const auto [hours, minutes, seconds, frames] = *fields;
+    const std::int64_t totalMinutes = addChecked(multiplyChecked(hours, 60), minutes);
+    const std::int64_t totalSeconds = addChecked(multiplyChecked(totalMinutes, 60), seconds);
+    return addChecked(multiplyChecked(totalSeconds, frameBase(fps)), frames);
 }
 
 /// Frames in "numerator/denominator" seconds. A numerator that is no number counts as zero.
@@ -85,6 +87,9 @@ std::optional<std::int64_t> CommonTimelineXMLDelegate::frames(std::string_view f
 
 std::string CommonTimelineXMLDelegate::timecode(std::int64_t fromFrames) const {
     const std::int64_t base = frameBase(fps);
+    if (const auto usual = writeTwoDigitFields(fromFrames, base, ':')) {
+        return {usual->data(), usual->size()};
+    }
     const std::int64_t seconds = fromFrames / base;
     const std::int64_t frames = fromFrames - seconds * base;
     std::string text;

@@ -3,7 +3,9 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QSignalBlocker>
+#include <QTextBlock>
 #include <QTextDocument>
+#include <algorithm>
 #include <utility>
 
 #include "ui/Colours.h"
@@ -18,6 +20,18 @@ QString withLineFeeds(QString text) {
     return std::move(text.replace(QChar::ParagraphSeparator, QChar::LineFeed));
 }
 
+/// The length of the longest run without a blank.
+qsizetype longestWord(const QString& text) {
+    qsizetype longest = 0;
+    qsizetype start = 0;
+    for (qsizetype i = 0; i <= text.size(); ++i) {
+        if (i < text.size() && !text[i].isSpace()) continue;
+        longest = std::max(longest, i - start);
+        start = i + 1;
+    }
+    return longest;
+}
+
 }  // namespace
 
 CommentsView::CommentsView(QWidget* parent) : QPlainTextEdit(parent) {
@@ -28,7 +42,6 @@ CommentsView::CommentsView(QWidget* parent) : QPlainTextEdit(parent) {
     own.setColor(QPalette::Text, colours::text);
     setPalette(own);
     setTabChangesFocus(true);
-    setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setReadOnly(true);
@@ -49,8 +62,19 @@ void CommentsView::showNothing() {
 
 void CommentsView::setText(const QString& text) {
     const QSignalBlocker notTyping(this);
+    clear();
+    setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    wrapFor(text);
     setPlainText(text);
     shownRevision = document()->revision();
+}
+
+/// A word of many lines costs the toolkit the square of its length to wrap at words, minutes for a
+/// megabyte. From the first such word on, lines break anywhere, until other comments are shown.
+void CommentsView::wrapFor(const QString& text) {
+    constexpr qsizetype limit = 4000;
+    if (wordWrapMode() == QTextOption::WrapAnywhere || longestWord(text) <= limit) return;
+    setWordWrapMode(QTextOption::WrapAnywhere);
 }
 
 bool CommentsView::isEdited() const {
@@ -69,6 +93,12 @@ void CommentsView::keyPressEvent(QKeyEvent* event) {
         return;
     }
     QPlainTextEdit::keyPressEvent(event);
+    wrapFor(textCursor().block().text());
+}
+
+void CommentsView::insertFromMimeData(const QMimeData* source) {
+    wrapFor(source->text());
+    QPlainTextEdit::insertFromMimeData(source);
 }
 
 QMimeData* CommentsView::createMimeDataFromSelection() const {

@@ -27,9 +27,11 @@ class CommentsView : public QPlainTextEdit {
   protected:
     void keyPressEvent(QKeyEvent* event) override;
     QMimeData* createMimeDataFromSelection() const override;
+    void insertFromMimeData(const QMimeData* source) override;
 
   private:
     void setText(const QString& text);
+    void wrapFor(const QString& text);
 
     std::optional<UUID> shownEvent;
     int shownRevision = 0;

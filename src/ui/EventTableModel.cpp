@@ -40,7 +40,7 @@ void EventTableModel::reload(std::optional<std::size_t> selectedRow) {
     }
 }
 
-const TimelineEvent& EventTableModel::event(int row) const {
+const TimelineEvent& EventTableModel::eventAt(int row) const {
     if (rowGone && row == *rowGone) return document.removedEvents.back();
     const auto position = static_cast<std::size_t>(rowGone && row > *rowGone ? row - 1 : row);
     if (row < 0 || position >= document.events.size()) fatal("a row outside the event list");
@@ -60,15 +60,15 @@ QVariant EventTableModel::data(const QModelIndex& index, int role) const {
     const auto& column = eventColumns()[static_cast<std::size_t>(index.column())];
     switch (role) {
         case Qt::DisplayRole:
-            return toQt(event(index.row()).*column.field);
+            return toQt(eventAt(index.row()).*column.field);
         case Qt::AccessibleTextRole: {
-            const auto& text = event(index.row()).*column.field;
+            const auto& text = eventAt(index.row()).*column.field;
             return text.empty() ? QStringLiteral("-") : toQt(text);
         }
         case Qt::ForegroundRole:
             return column.colour;
         case highlightedRole:
-            return event(index.row()).highlighted;
+            return eventAt(index.row()).highlighted;
         default:
             return {};
     }

@@ -27,7 +27,7 @@ class EventTableModel : public QAbstractTableModel {
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
   private:
-    const TimelineEvent& event(int row) const;
+    const TimelineEvent& eventAt(int row) const;
     bool hasSameEvents() const;
     bool hasLostOneEvent() const;
     void remember();

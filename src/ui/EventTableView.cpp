@@ -117,6 +117,15 @@ void EventTableView::scrollTo(const QModelIndex& index, ScrollHint hint) {
     }
 }
 
+/// Scrolling to a row leaves the columns where the user has them; only moving among them does not.
+void EventTableView::showColumn(int column) {
+    const int left = horizontalHeader()->sectionPosition(column);
+    const int right = left + columnWidth(column);
+    QScrollBar& bar = *horizontalScrollBar();
+    if (right > bar.value() + viewport()->width()) bar.setValue(right - viewport()->width());
+    if (left < bar.value()) bar.setValue(left);
+}
+
 void EventTableView::updateGeometries() {
     QHeaderView& header = *horizontalHeader();
     setViewportMargins(0, headerHeight, 0, 0);
@@ -206,8 +215,9 @@ QModelIndex EventTableView::moveCursor(CursorAction action, Qt::KeyboardModifier
         case MovePrevious:
             break;
     }
-    return model()->index(std::clamp(row, 0, last),
-                          std::clamp(column, 0, model()->columnCount() - 1));
+    column = std::clamp(column, 0, model()->columnCount() - 1);
+    if (column != current.column()) showColumn(column);
+    return model()->index(std::clamp(row, 0, last), column);
 }
 
 void EventTableView::setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags command) {
@@ -228,9 +238,8 @@ QRegion EventTableView::visualRegionForSelection(const QItemSelection& selection
 }
 
 void EventTableView::mousePressEvent(QMouseEvent* event) {
-    if (!indexAt(event->position().toPoint()).isValid()) {
-        selectionModel()->clear();
-    }
+    const bool beside = !indexAt(event->position().toPoint()).isValid();
+    if (beside && event->button() == Qt::LeftButton) selectionModel()->clear();
     QTableView::mousePressEvent(event);
 }
 

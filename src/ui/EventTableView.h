@@ -46,6 +46,7 @@ class EventTableView : public QTableView {
     int rowCount() const;
     int firstRowIn(const QRect& area) const;
     int lastRowIn(const QRect& area) const;
+    void showColumn(int column);
     void keepMinimumWidth(int column, int width);
     void fitLastColumn();
     void paintRow(QPainter& painter, int row, const QRect& dirty) const;

@@ -6,6 +6,7 @@
 #include <csignal>
 #include <cstdio>
 
+#include "ui/ApplicationIcon.h"
 #include "ui/ClipvaneStyle.h"
 #include "ui/Fonts.h"
 #include "ui/Palette.h"
@@ -40,6 +41,7 @@ void prepareToolkit() {
 void dressApplication(QApplication& application) {
     application.setApplicationName("Clipvane");
     application.setDesktopFileName("clipvane");
+    application.setWindowIcon(applicationIcon());
     application.setStyle(new ClipvaneStyle);
     application.setPalette(darkPalette());
     application.setFont(systemFont(13));

@@ -59,6 +59,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Row{"dottedCapitalI", "FROM CL\u0130P NAME: a", std::nullopt},
                     Row{"ligatureFF", "\uFB00rom clip name: a", "a"},
                     Row{"ligatureFFAtVeryStart", "\uFB00ROM CLIP NAME", "\uFB00ROM CLIP NAME"},
+                    Row{"ligatureFFCutOff", "\uFB00rom clip na", std::nullopt},
                     Row{"ligatureFI", "\uFB01rom clip name: a", std::nullopt},
                     Row{"fullWidthLetters", "\uFF26ROM CLIP NAME: a", std::nullopt},
                     Row{"twoBlanks", "* FROM  CLIP NAME: a", std::nullopt},

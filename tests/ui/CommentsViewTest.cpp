@@ -114,6 +114,22 @@ TEST(CommentsView, Copying_KeepsEveryCharacter) {
     EXPECT_EQ(QGuiApplication::clipboard()->text(), QString::fromUtf8("a\u00A0b\nc"));
 }
 
+TEST(CommentsView, EndlessWord_BreaksAnywhereInsteadOfTakingMinutes) {
+    CommentsView view;
+    view.resize(362, 105);
+    view.show();
+    view.showComments(one, "ordinary words");
+    EXPECT_EQ(view.wordWrapMode(), QTextOption::WrapAtWordBoundaryOrAnywhere);
+    QGuiApplication::clipboard()->setText(QString(200'000, 'a'));
+    view.paste();
+    EXPECT_EQ(view.wordWrapMode(), QTextOption::WrapAnywhere);
+    EXPECT_EQ(view.comments().size(), 200'014U);
+    view.showComments(two, std::string(200'000, 'b'));
+    EXPECT_EQ(view.wordWrapMode(), QTextOption::WrapAnywhere);
+    view.showComments(one, "ordinary words");
+    EXPECT_EQ(view.wordWrapMode(), QTextOption::WrapAtWordBoundaryOrAnywhere);
+}
+
 TEST(CommentsView, LooksAsAnEditor) {
     const CommentsView view;
     EXPECT_EQ(view.font().pixelSize(), 16);

@@ -216,6 +216,28 @@ TEST_F(EventTableTest, Keys_WalkTheList) {
     }
 }
 
+TEST_F(EventTableTest, RightKey_BringsTheLastColumnIntoView) {
+    fill(100);
+    view.selectRow(5);
+    for (int i = 0; i < 7; ++i) press(Qt::Key_Right);
+    EXPECT_EQ(view.horizontalScrollBar()->value(), view.horizontalScrollBar()->maximum());
+    EXPECT_EQ(selected(), 5U);
+    press(Qt::Key_Down);
+    EXPECT_EQ(view.horizontalScrollBar()->value(), view.horizontalScrollBar()->maximum());
+    for (int i = 0; i < 7; ++i) press(Qt::Key_Left);
+    EXPECT_EQ(view.horizontalScrollBar()->value(), 0);
+}
+
+TEST_F(EventTableTest, HeaderEdgeDoubleClicked_ColumnFitsItsContents) {
+    fill(3);
+    document.events[1].clipName = std::string(60, 'W');
+    view.resizeColumnToContents(1);
+    EXPECT_GT(view.columnWidth(1), 60 * 8);
+    document.events[1].clipName = "short";
+    view.resizeColumnToContents(1);
+    EXPECT_EQ(view.columnWidth(1), 280);
+}
+
 TEST_F(EventTableTest, ClickBelowTheRows_ClearsTheSelection) {
     fill(2);
     view.selectRow(1);
