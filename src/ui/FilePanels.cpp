@@ -5,6 +5,8 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QTreeView>
+#include <array>
 #include <utility>
 
 #include "ui/Text.h"
@@ -18,8 +20,17 @@ constexpr const char* timelineFilter =
     "*.[fF][cC][pP][xX][mM][lL] "
     "*.[xX][mM][eE][mM][lL])";
 
-/// The toolkit's panel leaves the lists of its pop-ups without a name for assistive technology.
-void nameLists(const QFileDialog& panel) {
+constexpr QSize panelSize{860, 520};
+constexpr std::array columnWidths{335, 90, 140, 150};
+
+/// The toolkit's own panel: wide enough for a file's facts, and its pop-ups' lists with names for
+/// assistive technology. A desktop's panel has none of these parts.
+void dress(QFileDialog& panel) {
+    panel.resize(panelSize);
+    if (auto* files = panel.findChild<QTreeView*>("treeView")) {
+        int column = 0;
+        for (const int width : columnWidths) files->setColumnWidth(column++, width);
+    }
     for (const auto& [popup, name] :
          {std::pair{"lookInCombo", "Folders"}, std::pair{"fileTypeCombo", "File types"}}) {
         if (auto* box = panel.findChild<QComboBox*>(popup)) box->view()->setAccessibleName(name);
@@ -28,7 +39,7 @@ void nameLists(const QFileDialog& panel) {
 
 std::optional<std::filesystem::path> run(QFileDialog& panel, QString& folder) {
     panel.setDirectory(folder.isEmpty() ? QDir::homePath() : folder);
-    nameLists(panel);
+    dress(panel);
     const bool accepted = panel.exec() == QDialog::Accepted;
     // A panel and its question that go at once leave some window managers with no active window.
     panel.parentWidget()->activateWindow();

@@ -1,4 +1,4 @@
-"""Finding controls as assistive technology does: by role and name, in the running program's tree."""
+"""Finding controls as assistive technology does: by role and name, in the program's tree."""
 
 import pyatspi
 from gi.repository import Atspi, GLib
@@ -9,7 +9,7 @@ GONE = (LookupError, NotImplementedError, GLib.Error)
 
 
 def application(pid):
-    """The program's root, as soon as it is there. Nothing is cached: the program changes all the time."""
+    """The program's root, as soon as it is there. Nothing is cached: the program changes."""
 
     def registered():
         desktop = pyatspi.Registry.getDesktop(0)
@@ -68,7 +68,7 @@ def matches(node, role, name):
 
 
 def name_of(node):
-    """What a screen reader calls it: by its label, where another control is its label, or by its name."""
+    """What a screen reader calls it: by the control that is its label, or by its own name."""
     for relation in node.getRelationSet():
         if relation.getRelationType() == pyatspi.RELATION_LABELLED_BY:
             return relation.getTarget(0).name
@@ -117,7 +117,7 @@ def is_alive(node, role, name):
 
 
 def focused_in(window):
-    """Role and name of what has the keyboard: a control, or else the current entry of an open list."""
+    """Role and name of what has the keyboard: a control, or else an open list's current entry."""
     entries = []
     for node in walk_showing(window):
         if "focused" not in states_of(node):

@@ -19,11 +19,12 @@ CONTROLS = [
     ("push button", "Help"), ("table", "Event Viewer"), ("text", "Comments"),
 ]
 
-HEADERS = ["#", "Clip Name", "Reel ID", "Source In", "Source Out", "Record In", "Record Out", "Type"]
+HEADERS = ["#", "Clip Name", "Reel ID", "Source In", "Source Out", "Record In", "Record Out",
+           "Type"]
 
 # As a reader meets them: the panel's title, the event's title, the keys, the editor.
-DETAIL_KEYS = ["Clip Name", "Reel ID", "Track", "Source In", "Source Out", "Source Dur", "Record In",
-               "Record Out", "Record Dur", "FPS Source", "Format"]
+DETAIL_KEYS = ["Clip Name", "Reel ID", "Track", "Source In", "Source Out", "Source Dur",
+               "Record In", "Record Out", "Record Dur", "FPS Source", "Format"]
 
 
 def everything(node):
@@ -72,12 +73,13 @@ def check_controls(desk):
                 cell = view.getAccessibleAt(row, column)
                 assert role_of(cell) == "table cell", path_to(cell)
         desk.await_rows(expected.PIER)
-    with desk.step("the details: each value is labelled by its key, in reading order, then the editor"):
+    with desk.step("the details: values labelled by their keys, in order, then the editor"):
         panel = desk.find("filler", "Selected Event")
         labels = [n for n in everything(panel) if role_of(n) in ("label", "text")]
         labelled = [name_of(n) for n in labels if n.name != name_of(n)]
         assert labelled == DETAIL_KEYS, labelled
-        assert role_of(labels[-1]) == "text" and name_of(labels[-1]) == "Comments", path_to(labels[-1])
+        last = labels[-1]
+        assert (role_of(last), name_of(last)) == ("text", "Comments"), path_to(last)
 
 
 def check_changes(desk):

@@ -180,7 +180,8 @@ class Desk:
     def open_list(self):
         """The items of the pop-up's list, if it is open."""
         popup = self.find("combo box", "Global FPS")
-        return [node.name for node in access.walk_showing(popup) if access.role_of(node) == "list item"]
+        return [node.name for node in access.walk_showing(popup)
+                if access.role_of(node) == "list item"]
 
     # Reports.
 

@@ -6,8 +6,8 @@ START_LINES = ["Process started.", "Setting up main UI.", "Main window created b
                "Application did finish launching."]
 
 REMINDER = ["Check Project Frame Rate",
-            "Please make sure to set the right project frame rate. Incorrect frame rate might produce "
-            "incorrect timecodes."]
+            "Please make sure to set the right project frame rate. Incorrect frame rate might "
+            "produce incorrect timecodes."]
 
 RATES = ["23.976 fps", "24 fps", "25 fps", "29.97 fps", "30 fps", "47.952 fps", "48 fps", "50 fps",
          "59.94 fps", "60 fps"]

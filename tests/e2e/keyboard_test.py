@@ -6,7 +6,7 @@ import expected
 from access import centre
 from desk import run_test
 from hands import click_at, press, type_text
-from waiting import stays, wait_equal, wait_for
+from waiting import stays, wait_equal
 
 PIER = Path(__file__).resolve().parent / "timelines" / "pier.edl"
 LOADED = "Loaded 5 events from pier.edl. FPS: 25 (File)."
@@ -129,7 +129,7 @@ def comments(desk):
         for left in (2, 1, 0):
             desk.button("Remove Event")
             desk.await_status(f"Removed event. {left} events remain for export.")
-        wait_for(lambda: desk.has("label", "Open a timeline file to view events"), "the empty label")
+        desk.find("label", "Open a timeline file to view events")
         desk.click("text", "Comments")
         type_text("nowhere")
         stays(lambda: desk.comments() == "", "empty comments")

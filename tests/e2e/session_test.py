@@ -4,7 +4,7 @@ import os
 from pathlib import Path
 
 import expected
-from access import children_of, rectangle, text_of
+from access import children_of, rectangle, role_of, text_of
 from checks import (MARKED, PANEL, ROOT, SELECTED, SELECTED_ALTERNATE, SELECTED_MARKED, TABLE,
                     TABLE_ALTERNATE, check_content, check_log, check_pixel, check_row_colour,
                     files_below)
@@ -21,7 +21,8 @@ def dismiss(desk, *texts):
     assert desk.alert(texts[0]) == list(texts), desk.alert(texts[0])
     desk.picture("alert")
     press("Return")
-    wait_for(lambda: "dialog" not in [n.getRoleName() for n in children_of(desk.app)], "the alert to go")
+    wait_for(lambda: "dialog" not in [role_of(n) for n in children_of(desk.app)],
+             "the alert to go")
     desk.await_window("Clipvane")
 
 

@@ -8,9 +8,9 @@ from desk import HAS_OWN_LOG, LOG, run_test
 from screen import Screenshot
 from waiting import wait_for
 
-OPTIONS = ["-style", "Windows", "-stylesheet", "/no/such.qss", "-platform", "offscreen", "-geometry",
-           "300x200+0+0", "-reverse", "-qwindowtitle", "Other", "-fontsize", "40", "--help",
-           "timeline.edl"]
+OPTIONS = ["-style", "Windows", "-stylesheet", "/no/such.qss", "-platform", "offscreen",
+           "-geometry", "300x200+0+0", "-reverse", "-qwindowtitle", "Other", "-fontsize", "40",
+           "--help", "timeline.edl"]
 ENVIRONMENT = {"QT_STYLE_OVERRIDE": "Windows", "TZ": "Asia/Kolkata", "LC_ALL": "de_DE.UTF-8"}
 
 

@@ -63,7 +63,8 @@ def take_along(desk):
         desk.button("Copy Info")
         desk.await_status("Copied selected event information.")
         (desk.output / "copied.txt").write_text(clipboard())
-    for button, name in (("Export CSV", "timeline-events.csv"), ("Export EDL", "edited-timeline.edl")):
+    for button, name in (("Export CSV", "timeline-events.csv"),
+                         ("Export EDL", "edited-timeline.edl")):
         with desk.step(f"{button}: {name}"):
             (desk.output / name).unlink(missing_ok=True)
             desk.button(button)

@@ -1,9 +1,8 @@
 """Waiting for what the program will do, instead of sleeping and hoping."""
 
-import os
 import time
 
-PATIENCE = float(os.environ.get("CLIPVANE_E2E_PATIENCE", "20"))  # seconds; a busy machine takes long
+PATIENCE = 20  # seconds; a busy machine takes long
 
 
 def wait_for(condition, what, patience=PATIENCE):

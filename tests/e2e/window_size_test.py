@@ -10,7 +10,8 @@ WIDTH, HEIGHT = map(int, xdotool("getdisplaygeometry").stdout.split())
 
 
 def properties(window, name):
-    answer = subprocess.run(["xprop", "-id", window, "-notype", name], capture_output=True, text=True)
+    answer = subprocess.run(["xprop", "-id", window, "-notype", name], capture_output=True,
+                            text=True)
     return [int(part) for part in answer.stdout.partition("=")[2].split(",")]
 
 
