@@ -118,6 +118,20 @@ TEST_F(SessionTest, RateChange_KeepsSelectionCommentAndUndo) {
     EXPECT_TRUE(details().contains("Source Dur=00:00:04:00 (200 frames)"));
 }
 
+TEST_F(SessionTest, RateChange_WaitCursorMeanwhile) {
+    open(writeEDL("cut.edl", 3));
+    auto seen = Qt::ArrowCursor;
+    QMetaObject::invokeMethod(
+        controller.window(),
+        [&] {
+            if (const auto* cursor = QApplication::overrideCursor()) seen = cursor->shape();
+        },
+        Qt::QueuedConnection);
+    chooseRate("50 fps");
+    EXPECT_EQ(seen, Qt::WaitCursor);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
 TEST_F(SessionTest, RateChosenAgain_IsManualNow) {
     open(writeEDL("cut.edl", 3));
     auto* popup = find<FrameRatePopup>();
