@@ -1,8 +1,13 @@
 #include "ui/FilePanels.h"
 
+#include <QAbstractItemView>
+#include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QTreeView>
+#include <array>
+#include <utility>
 
 #include "ui/Text.h"
 
@@ -15,9 +20,30 @@ constexpr const char* timelineFilter =
     "*.[fF][cC][pP][xX][mM][lL] "
     "*.[xX][mM][eE][mM][lL])";
 
+constexpr QSize panelSize{860, 520};
+constexpr std::array columnWidths{335, 90, 140, 150};
+
+/// The toolkit's own panel: wide enough for a file's facts, and its pop-ups' lists with names for
+/// assistive technology. A desktop's panel has none of these parts.
+void dress(QFileDialog& panel) {
+    panel.resize(panelSize);
+    if (auto* files = panel.findChild<QTreeView*>("treeView")) {
+        int column = 0;
+        for (const int width : columnWidths) files->setColumnWidth(column++, width);
+    }
+    for (const auto& [popup, name] :
+         {std::pair{"lookInCombo", "Folders"}, std::pair{"fileTypeCombo", "File types"}}) {
+        if (auto* box = panel.findChild<QComboBox*>(popup)) box->view()->setAccessibleName(name);
+    }
+}
+
 std::optional<std::filesystem::path> run(QFileDialog& panel, QString& folder) {
     panel.setDirectory(folder.isEmpty() ? QDir::homePath() : folder);
-    if (panel.exec() != QDialog::Accepted || panel.selectedFiles().isEmpty()) return std::nullopt;
+    dress(panel);
+    const bool accepted = panel.exec() == QDialog::Accepted;
+    // A panel and its question that go at once leave some window managers with no active window.
+    panel.parentWidget()->activateWindow();
+    if (!accepted || panel.selectedFiles().isEmpty()) return std::nullopt;
     const QString file = panel.selectedFiles().first();
     folder = QFileInfo(file).absolutePath();
     return std::filesystem::path(QFile::encodeName(file).toStdString());
