@@ -4,7 +4,6 @@
 #include <array>
 #include <cctype>
 #include <charconv>
-#include <cmath>
 #include <limits>
 
 #include "base/Characters.h"
@@ -99,18 +98,6 @@ std::optional<std::int64_t> parseInteger(std::string_view text) {
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
     if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
     return value;
-}
-
-std::int64_t roundToInteger(double value) {
-    // 2^63 is the first double above the range; its negative is the range's lower end. Doubles of
-    // that size are whole, so that rounding leads none across.
-    constexpr double limit = 9223372036854775808.0;
-    if (!(value >= -limit && value < limit)) {
-        fatal("a number cannot be rounded to a 64-bit integer");
-    }
-    const auto whole = static_cast<std::int64_t>(value);
-    const double fraction = value - static_cast<double>(whole);  // exact
-    return whole + (fraction >= 0.5 ? 1 : 0) - (fraction <= -0.5 ? 1 : 0);
 }
 
 void appendInteger(std::string& text, std::int64_t value) {

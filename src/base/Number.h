@@ -42,7 +42,17 @@ inline std::int64_t multiplyChecked(std::int64_t a, std::int64_t b) {
 
 /// The nearest integer, halves away from zero. A value that is not finite or lies outside the
 /// signed 64-bit range once rounded is fatal.
-std::int64_t roundToInteger(double value);
+inline std::int64_t roundToInteger(double value) {
+    // 2^63 is the first double above the range; its negative is the range's lower end. Doubles of
+    // that size are whole, so that rounding leads none across.
+    constexpr double limit = 9223372036854775808.0;
+    if (!(value >= -limit && value < limit)) {
+        fatal("a number cannot be rounded to a 64-bit integer");
+    }
+    const auto whole = static_cast<std::int64_t>(value);
+    const double fraction = value - static_cast<double>(whole);  // exact
+    return whole + (fraction >= 0.5 ? 1 : 0) - (fraction <= -0.5 ? 1 : 0);
+}
 
 /// Appends `value` in decimal.
 void appendInteger(std::string& text, std::int64_t value);

@@ -89,6 +89,11 @@ bool TimecodeConversion::convert(std::string& timecode) const {
         static_cast<double>(count) / static_cast<double>(fromBase) * static_cast<double>(toBase));
     const bool dropFrame = timecode.find(dropFrameSeparator) != std::string::npos;
     const char separator = dropFrame ? dropFrameSeparator : ':';
+    if (timecode.size() == twoDigitLength && fitsTwoDigitFields(converted, toBase)) {
+        writeTwoDigitFields(std::span<char, twoDigitLength>(timecode), converted, toBase,
+                            separator);
+        return true;
+    }
     timecode.clear();
     appendTimecode(timecode, converted, toBase, separator);
     return true;
