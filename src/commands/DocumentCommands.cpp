@@ -61,9 +61,12 @@ void DocumentCommands::fpsChanged() {
     if (!fps) return;
 
     saveCurrentComment();
-    const double earlier = documentModel.fps;
+    double earlier = 0;
     std::size_t converted = 0;
-    whileBusy([&] { converted = convertTimecodes(documentModel.events, earlier, *fps); });
+    whileBusy([&] {
+        earlier = documentModel.fps;
+        converted = convertTimecodes(documentModel.events, earlier, *fps);
+    });
     documentModel.fps = *fps;
     documentModel.fpsSource = fpsSourceManual;
 

@@ -87,7 +87,8 @@ class DocumentCommands {
     virtual void setPasteboardText(const std::string& text) = 0;
     virtual void writeLog(const std::string& message) = 0;
 
-    /// Runs `work`, which reads, converts or writes a whole timeline, under a wait cursor.
+    /// Runs `work`, which reads, converts or writes a whole timeline, under a wait cursor. Another
+    /// command may come before it, while the cursor is shown: what `work` needs it asks for itself.
     virtual void whileBusy(const std::function<void()>& work) = 0;
 };
 

@@ -33,7 +33,7 @@ class AlertIcon : public QWidget {
         painter.setBrush(warns ? colours::window : colours::white);
         const double stem = warns ? 9 : 17;
         const double dot = warns ? 28 : 9.5;
-        painter.drawRoundedRect(QRectF(18, stem, 4, warns ? 15 : 15), 2, 2);
+        painter.drawRoundedRect(QRectF(18, stem, 4, 15), 2, 2);
         painter.drawEllipse(QPointF(20, dot + 2), 2.6, 2.6);
     }
 

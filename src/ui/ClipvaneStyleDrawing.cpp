@@ -83,8 +83,7 @@ void ClipvaneStyle::drawHeaderSection(const QStyleOptionHeader& option, QPainter
     const QRect rect = option.rect;
     painter.fillRect(rect, colours::tableHeader);
     painter.fillRect(rect.left(), rect.bottom(), rect.width(), 1, colours::panelEdge);
-    painter.fillRect(rect.right(), rect.top() + 7, 1, rect.height() - 14,
-                     QColor(255, 255, 255, 40));
+    painter.fillRect(rect.right(), rect.top() + 7, 1, rect.height() - 14, colours::headerDivider);
 }
 
 void ClipvaneStyle::drawHeaderLabel(const QStyleOptionHeader& option, QPainter& painter) const {

@@ -51,6 +51,7 @@ inline const QColor menu{0x1d, 0x22, 0x29};
 inline const QColor menuEdge{0x3a, 0x42, 0x4e};
 inline const QColor scrollThumb{0x3d, 0x47, 0x54};
 inline const QColor scrollThumbHover{0x55, 0x61, 0x72};
+inline const QColor headerDivider{255, 255, 255, 40};
 inline const QColor disabledText{0x62, 0x69, 0x74};
 inline const QColor warning{0xe0, 0xa0, 0x30};
 

@@ -20,12 +20,17 @@ QString withLineFeeds(QString text) {
     return std::move(text.replace(QChar::ParagraphSeparator, QChar::LineFeed));
 }
 
-/// The length of the longest run without a blank.
+/// Whether a line may break at `c`; the no-break blanks are blanks, too.
+bool endsWord(QChar c) {
+    return c.isSpace() && c.decompositionTag() != QChar::NoBreak;
+}
+
+/// The length of the longest run in which no line may break.
 qsizetype longestWord(const QString& text) {
     qsizetype longest = 0;
     qsizetype start = 0;
     for (qsizetype i = 0; i <= text.size(); ++i) {
-        if (i < text.size() && !text[i].isSpace()) continue;
+        if (i < text.size() && !endsWord(text[i])) continue;
         longest = std::max(longest, i - start);
         start = i + 1;
     }

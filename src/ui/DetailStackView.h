@@ -23,8 +23,6 @@ class DetailStackView : public QWidget {
     /// Puts `rows` between the title and the comments block, in place of those before.
     void insertDetailRows(const std::vector<DetailRow>& rows);
 
-    const std::vector<DetailRowView*>& rowViews() const { return views; }
-
   protected:
     void resizeEvent(QResizeEvent* event) override;
 

@@ -149,8 +149,10 @@ void EventTableView::updateGeometries() {
 
 void EventTableView::keepMinimumWidth(int column, int width) {
     if (fitting) return;
+    const int kept = std::max(width, narrowest(column));
+    if (column == model()->columnCount() - 1) chosenLastWidth = kept;
     fitting = true;
-    setColumnWidth(column, std::max(width, narrowest(column)));
+    setColumnWidth(column, kept);
     fitting = false;
     updateGeometries();
 }
@@ -160,7 +162,7 @@ void EventTableView::fitLastColumn() {
     const int last = model()->columnCount() - 1;
     const int rest = viewport()->width() - (horizontalHeader()->length() - columnWidth(last));
     fitting = true;
-    setColumnWidth(last, std::max(rest, narrowest(last)));
+    setColumnWidth(last, std::max({rest, chosenLastWidth, narrowest(last)}));
     fitting = false;
 }
 
@@ -259,6 +261,9 @@ void EventTableView::focusInEvent(QFocusEvent* event) {
 
 void EventTableView::focusOutEvent(QFocusEvent* event) {
     QTableView::focusOutEvent(event);
+    // Another window in front only interrupts: the focus comes back.
+    const Qt::FocusReason reason = event->reason();
+    if (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason) return;
     if (focusFrame != nullptr) focusFrame->setWidget(nullptr);
 }
 

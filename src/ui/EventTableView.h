@@ -53,6 +53,7 @@ class EventTableView : public QTableView {
 
     QFocusFrame* focusFrame = nullptr;  ///< seen while the keyboard has led here
     QStringListModel noRows;            ///< the vertical header's model
+    int chosenLastWidth = 0;            ///< that the user gave the last column
     bool fitting = false;
 };
 

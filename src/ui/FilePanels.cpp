@@ -38,7 +38,6 @@ void dress(QFileDialog& panel) {
 }
 
 std::optional<std::filesystem::path> run(QFileDialog& panel, QString& folder) {
-    panel.setDirectory(folder.isEmpty() ? QDir::homePath() : folder);
     dress(panel);
     const bool accepted = panel.exec() == QDialog::Accepted;
     // A panel and its question that go at once leave some window managers with no active window.
@@ -51,8 +50,13 @@ std::optional<std::filesystem::path> run(QFileDialog& panel, QString& folder) {
 
 }  // namespace
 
+QString FilePanels::startFolder() const {
+    return folder.isEmpty() ? QDir::homePath() : folder;
+}
+
 std::optional<std::filesystem::path> FilePanels::runOpenPanel() {
     QFileDialog panel(parent, "Open Timeline");
+    panel.setDirectory(startFolder());
     panel.setFileMode(QFileDialog::ExistingFile);
     panel.setNameFilter(timelineFilter);
     panel.setOption(QFileDialog::HideNameFilterDetails);
@@ -63,7 +67,7 @@ std::optional<std::filesystem::path> FilePanels::runSavePanel(const std::string&
     QFileDialog panel(parent, "Export");
     panel.setAcceptMode(QFileDialog::AcceptSave);
     panel.setFileMode(QFileDialog::AnyFile);
-    panel.setDirectory(folder.isEmpty() ? QDir::homePath() : folder);
+    panel.setDirectory(startFolder());
     panel.selectFile(toQt(defaultName));
     return run(panel, folder);
 }

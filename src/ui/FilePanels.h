@@ -20,6 +20,8 @@ class FilePanels {
     std::optional<std::filesystem::path> runSavePanel(const std::string& defaultName);
 
   private:
+    QString startFolder() const;
+
     QWidget* parent;
     QString folder;
 };

@@ -45,8 +45,9 @@ FrameRatePopup::FrameRatePopup(QWidget* parent) : QComboBox(parent) {
 
 void FrameRatePopup::showRate(double fps) {
     const QString wanted = title(fps);
-    if (findText(wanted, Qt::MatchExactly | Qt::MatchCaseSensitive) < 0) addItem(wanted);
-    setCurrentIndex(findText(wanted, Qt::MatchExactly | Qt::MatchCaseSensitive));
+    const int known = findText(wanted, Qt::MatchExactly | Qt::MatchCaseSensitive);
+    if (known < 0) addItem(wanted);
+    setCurrentIndex(known < 0 ? count() - 1 : known);
 }
 
 void FrameRatePopup::keyPressEvent(QKeyEvent* event) {

@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QPlainTextEdit>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "ui/Colours.h"
 #include "ui/Fonts.h"
@@ -60,8 +61,9 @@ HelpWindow::HelpWindow() {
 
 void HelpWindow::centre(const QRect& area, const QMargins& frame) {
     const QSize whole = size().grownBy(frame);
-    move(area.left() + (area.width() - whole.width()) / 2,
-         area.top() + (area.height() - whole.height()) / 2);
+    // On a screen too small for it the title bar stays within reach.
+    move(area.left() + std::max((area.width() - whole.width()) / 2, 0),
+         area.top() + std::max((area.height() - whole.height()) / 2, 0));
 }
 
 void HelpWindow::changeEvent(QEvent* event) {

@@ -23,7 +23,6 @@
 namespace clipvane {
 namespace {
 
-constexpr QSize contentSize{static_cast<int>(windowWidth), static_cast<int>(windowHeight)};
 constexpr QSize minimumFrameSize{static_cast<int>(windowMinimumWidth),
                                  static_cast<int>(windowMinimumHeight)};
 
@@ -77,9 +76,8 @@ PanelView* InspectorWindowController::makeEventPanel() {
 }
 
 PanelView* InspectorWindowController::makeDetailPanel() {
-    QObject::connect(commentsView, &QPlainTextEdit::textChanged, &mainWindow, [this] {
-        if (commentsView->isEdited()) textDidChange();
-    });
+    QObject::connect(commentsView, &QPlainTextEdit::textChanged, &mainWindow,
+                     [this] { textDidChange(); });
     detailStack->setCommentsBlock(new CommentsBlockView(commentsView));
     auto* scrollView = new DetailScrollView(detailStack);
     // The scroll bar stands in the panel's margin: the whole content width is the stack's.

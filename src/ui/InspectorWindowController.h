@@ -6,6 +6,7 @@
 #include "commands/DocumentCommands.h"
 #include "ui/EventTableModel.h"
 #include "ui/FilePanels.h"
+#include "ui/Geometry.h"
 
 namespace clipvane {
 
@@ -33,6 +34,9 @@ class InspectorWindowController : public DocumentCommands {
     QWidget* window() { return &mainWindow; }
 
   private:
+    static constexpr QSize contentSize{static_cast<int>(windowWidth),
+                                       static_cast<int>(windowHeight)};
+
     void buildWindow();
     QWidget* makeToolbar();
     PanelView* makeEventPanel();

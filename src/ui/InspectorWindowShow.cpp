@@ -1,6 +1,7 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QScreen>
+#include <QTimer>
 #include <QWindow>
 
 #include "ui/Geometry.h"
@@ -10,7 +11,6 @@
 namespace clipvane {
 namespace {
 
-constexpr QSize contentSize{static_cast<int>(windowWidth), static_cast<int>(windowHeight)};
 constexpr int activationPatience = 1000;  ///< ms; a desktop may refuse to activate a window
 
 QMargins frameOf(const QWidget& window) {
@@ -21,9 +21,11 @@ QMargins frameOf(const QWidget& window) {
 void waitUntilActive(const QWidget& window) {
     QElapsedTimer waited;
     waited.start();
+    QTimer wake;  // ends a wait in which nothing happens
+    wake.start(20);
     while (!window.isActiveWindow() && waited.elapsed() < activationPatience) {
-        QCoreApplication::processEvents(
-            QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents, 20);
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
+                                        QEventLoop::WaitForMoreEvents);
     }
 }
 

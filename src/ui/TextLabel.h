@@ -11,13 +11,10 @@ class TextLabel : public QLabel {
     TextLabel(const QString& text, const QFont& font, const QColor& colour,
               QWidget* parent = nullptr);
 
-    void setColour(const QColor& colour);
     QColor colour() const;
     void setElideMode(Qt::TextElideMode mode);
-    Qt::TextElideMode elideMode() const { return mode; }
     /// Wraps to at most `count` lines.
     void setMaximumLines(int count);
-    int maximumLines() const { return lineLimit; }
     /// The y of the text's baseline; without one the text is centred vertically.
     void setBaseline(int y) { baseline = y; }
 
@@ -31,6 +28,8 @@ class TextLabel : public QLabel {
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    void setColour(const QColor& colour);
+
     struct Lines {
         QStringList texts;
         bool elided = false;

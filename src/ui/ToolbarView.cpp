@@ -26,7 +26,7 @@ class ToolbarButton : public QPushButton {
   protected:
     void keyPressEvent(QKeyEvent* event) override {
         if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-            click();
+            if (!event->isAutoRepeat()) click();  // a key held down is one press
         } else {
             QPushButton::keyPressEvent(event);
         }

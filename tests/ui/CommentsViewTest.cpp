@@ -126,7 +126,10 @@ TEST(CommentsView, EndlessWord_BreaksAnywhereInsteadOfTakingMinutes) {
     EXPECT_EQ(view.comments().size(), 200'014U);
     view.showComments(two, std::string(200'000, 'b'));
     EXPECT_EQ(view.wordWrapMode(), QTextOption::WrapAnywhere);
-    view.showComments(one, "ordinary words");
+    const QString joined = QString("c\u00A0").repeated(5'000);  // no line may break there either
+    view.showComments(one, joined.toStdString());
+    EXPECT_EQ(view.wordWrapMode(), QTextOption::WrapAnywhere);
+    view.showComments(two, "ordinary words");
     EXPECT_EQ(view.wordWrapMode(), QTextOption::WrapAtWordBoundaryOrAnywhere);
 }
 

@@ -194,6 +194,17 @@ TEST_F(EventTableTest, Widened_OnlyTheLastColumnTakesTheRoom) {
     EXPECT_EQ(view.horizontalScrollBar()->maximum(), 1090 - 946);
 }
 
+TEST_F(EventTableTest, LastColumnWidened_KeepsWhatTheUserGaveIt) {
+    fill(1);
+    view.resize(946, 704);
+    view.setColumnWidth(7, 300);
+    EXPECT_EQ(view.columnWidth(7), 300);
+    view.resize(1000, 704);
+    EXPECT_EQ(view.columnWidth(7), 300);
+    view.resize(1400, 704);
+    EXPECT_EQ(view.columnWidth(7), 1400 - (1090 - 78));
+}
+
 struct KeyRow {
     Qt::Key key;
     std::size_t from;
@@ -292,7 +303,7 @@ TEST_F(EventTableTest, WhileARowGoes_TheOthersCanStillBeRead) {
             seen << model.index(row, 0).data().toString();
     });
     removeRow(1);
-    EXPECT_EQ(seen, (QStringList{"001", "002", "003"}).first(seen.size()));
+    EXPECT_EQ(seen, (QStringList{"001", "002", "003"}));
     EXPECT_EQ(model.index(1, 0).data().toString(), "003");
 }
 
@@ -312,7 +323,7 @@ TEST_F(EventTableTest, NamesThatCouldBreakAView_AreShownAsText) {
     for (const char* name : {"<b>bold</b>", "two\nlines", "שלום", "😀", "a\u0001b"}) {
         document.events[0].clipName = name;
         EXPECT_FALSE(cell.shownText(model.index(0, 1), 280).contains('\n'));
-        EXPECT_FALSE(view.grab().isNull());
+        view.grab();  // painting it neither fails nor hangs
     }
     document.events[0].clipName = "<b>bold</b>";
     EXPECT_EQ(cell.shownText(model.index(0, 1), 280), "<b>bold</b>");

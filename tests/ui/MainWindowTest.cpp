@@ -33,7 +33,6 @@ TEST_F(MainWindowTest, AtItsFirstSize_RegionsLieWhereTheyShould) {
     EXPECT_EQ(root->leftPanel->geometry(), QRect(16, 70, 974, 742));
     EXPECT_EQ(root->rightPanel->geometry(), QRect(1002, 70, 422, 742));
     EXPECT_EQ(root->status->geometry(), QRect(16, 824, 1408, 20));
-    const auto panels = controller.window()->findChildren<PanelView*>();
     EXPECT_EQ(find<EventTableView>()->geometry(),
               dynamic_cast<PanelView*>(root->leftPanel)->contentRect());
 }

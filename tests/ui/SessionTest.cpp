@@ -132,6 +132,25 @@ TEST_F(SessionTest, RateChange_WaitCursorMeanwhile) {
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
+TEST_F(SessionTest, RateChange_AnotherSlipsInBefore_BothCountFromWhatTheyFind) {
+    open(writeEDL("cut.edl", 3));
+    QMetaObject::invokeMethod(
+        controller.window(), [&] { chooseRate("30 fps"); }, Qt::QueuedConnection);
+    chooseRate("50 fps");
+    EXPECT_EQ(status(), "Converted 12 timecodes from 30 fps to 50 fps.");
+    EXPECT_TRUE(details().contains("Source Dur=00:00:04:00 (200 frames)"));
+}
+
+TEST_F(SessionTest, RemoveEvent_ReturnHeldDown_RemovesOne) {
+    open(writeEDL("cut.edl", 4));
+    auto* remove = button("Remove Event");
+    for (const bool repeated : {false, true, true}) {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", repeated);
+        QCoreApplication::sendEvent(remove, &press);
+    }
+    EXPECT_EQ(status(), "Removed event. 3 events remain for export.");
+}
+
 TEST_F(SessionTest, RateChosenAgain_IsManualNow) {
     open(writeEDL("cut.edl", 3));
     auto* popup = find<FrameRatePopup>();
