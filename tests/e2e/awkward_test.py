@@ -6,7 +6,7 @@ import time
 from access import rectangle, role_of, walk
 from desk import run_test
 from hands import press, type_text, xdotool
-from waiting import wait_equal
+from waiting import PATIENCE, wait_equal
 
 ENDLESS = "N" * 1_000_000
 MARKUP = "<h1>&amp;<br>&lt;img src=x&gt;"
@@ -29,11 +29,11 @@ def timeline():
 
 
 def promptly(action, what):
-    """Within two seconds, on a busy machine and with sanitizers too."""
+    """Without hanging; how long it takes is the benchmarks' business."""
     begun = time.monotonic()
     action()
     taken = time.monotonic() - begun
-    assert taken < 2, f"{what} took {taken:.1f} s"
+    assert taken < PATIENCE, f"{what} took {taken:.1f} s"
 
 
 def check_on_screen(desk, node):

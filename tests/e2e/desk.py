@@ -10,9 +10,9 @@ from contextlib import contextmanager
 from pathlib import Path
 
 import access
-from hands import active_title, click_at, press, type_text
+from hands import active_title, active_window, click_at, press, type_text
 from screen import save_screen
-from waiting import wait_equal, wait_for
+from waiting import comes, wait_equal, wait_for
 
 LOG = Path("/tmp/clipvane-native.log")
 HAS_OWN_LOG = os.environ.get("CLIPVANE_PRIVATE_TMP") == "1"
@@ -156,12 +156,19 @@ class Desk:
     # Dialogs.
 
     def choose_file(self, title, path):
-        """Types a path into the file dialog, whose name field has the keyboard."""
+        """Types a path into the file dialog, whose name field has the keyboard. The dialog reads
+        folders as it goes, and on a slow machine may take Return for a completion of the folder's
+        name instead: then the path is typed again, as a person would."""
         self.await_window(title)
-        self.await_focus("text", "File name:")
-        press("ctrl+a")
-        type_text(str(path))
-        press("Return")
+        dialog = active_window()
+        for _ in range(3):
+            self.await_focus("text", "File name:")
+            press("ctrl+a")
+            type_text(str(path))
+            press("Return")
+            if comes(lambda: active_window() != dialog, patience=5):
+                return
+        raise AssertionError(f"the dialog {title!r} does not take {path}")
 
     def alert(self, message):
         """The showing alert: its texts, after its message."""

@@ -17,6 +17,16 @@ def wait_for(condition, what, patience=PATIENCE):
         time.sleep(0.02)
 
 
+def comes(condition, patience):
+    """Whether the condition comes to hold in time."""
+    end = time.monotonic() + patience
+    while not condition():
+        if time.monotonic() > end:
+            return False
+        time.sleep(0.02)
+    return True
+
+
 def wait_equal(actual, expected, what):
     """Waits until the actual value, which is asked for again and again, equals the expected one."""
     last = None
