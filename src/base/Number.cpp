@@ -7,7 +7,6 @@
 #include <limits>
 
 #include "base/Characters.h"
-#include "base/Fatal.h"
 
 namespace clipvane {
 namespace {

@@ -3,7 +3,6 @@
 #include <cstring>
 
 #include "base/Characters.h"
-#include "base/Number.h"
 #include "import/FrameRateText.h"
 #include "import/TimelineParser.h"
 

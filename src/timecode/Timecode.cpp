@@ -1,9 +1,7 @@
 #include "timecode/Timecode.h"
 
 #include <algorithm>
-#include <array>
 
-#include "base/Characters.h"
 #include "base/Number.h"
 #include "timecode/FrameRate.h"
 #include "timecode/TwoDigitFields.h"
