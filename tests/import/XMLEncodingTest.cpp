@@ -4,8 +4,8 @@
 
 #include <string>
 
-#include "import/Judge.h"
 #include "import/TimelineParser.h"
+#include "judges/Pattern.h"
 #include "support/RowName.h"
 
 namespace clipvane::test {
