@@ -1,19 +1,19 @@
-// The XML reader gives the events of a reader that goes step by step. The first byte chooses the
-// rate.
+// The XML reader gives the events of a reader that goes step by step, at the rate that the document
+// names.
 
 #include "Events.h"
-#include "Rates.h"
 #include "Target.h"
 #include "base/UTF8.h"
 #include "import/TimelineParser.h"
 #include "import/XMLEncoding.h"
 #include "judges/XMLJudge.h"
+#include "model/FrameRateSource.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace clipvane;
     using namespace clipvane::fuzz;
-    std::string_view document = textOf(data, size);
-    const double fps = takeRate(document);
+    const std::string_view document = textOf(data, size);
+    const double fps = TimelineParser::detectFPS(document).value_or(defaultFPS);
 
     const auto events = unlessFatal([&] { return TimelineParser::parseXML(document, fps); });
     const auto expected = unlessFatal([&] {

@@ -48,7 +48,8 @@ std::optional<std::int64_t> judgedInteger(const std::string& text) {
     Wide value = 0;
     for (const char c : text.substr(signs)) {
         if (c < '0' || c > '9') return std::nullopt;
-        if (value <= largest) value = value * 10 + (c - '0');
+        // What is beyond 64 bits with either sign stays so, however many digits follow.
+        if (value <= Wide{largest} + 1) value = value * 10 + (c - '0');
     }
     if (text.starts_with('-')) value = -value;
     if (value < smallest || value > largest) return std::nullopt;
