@@ -1,6 +1,6 @@
 // Readers seed their identifiers from the system's source of randomness, which takes longer than
-// reading a short document. For the fuzzers the source is steady instead: a unit that is tried again
-// takes the same way, too.
+// reading a short document. For the fuzzers the source is steady instead: a unit that is tried
+// again takes the same way, too.
 
 #include <random>
 

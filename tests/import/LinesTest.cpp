@@ -106,7 +106,8 @@ TEST(LinesJudge, GeneratedTexts_AreSplitAtMandatoryBreaks) {
     Random random;
     for (std::size_t left = generatedCases(200'000); left > 0; --left) {
         std::string text;
-        for (auto piecesLeft = random.below(24); piecesLeft > 0; --piecesLeft) text += random.pick(pieces);
+        for (auto piecesLeft = random.below(24); piecesLeft > 0; --piecesLeft)
+            text += random.pick(pieces);
         ASSERT_EQ(linesOf(text), linesByProperty(utf16(text))) << text;
     }
 }
