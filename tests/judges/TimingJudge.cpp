@@ -1,7 +1,5 @@
 #include "judges/TimingJudge.h"
 
-#include <unicode/uniset.h>
-
 #include <cstdlib>
 
 #include "judges/EDLJudge.h"
