@@ -192,7 +192,7 @@ TEST(Frames, EveryByteAtEveryPlaceOfATimecode_IsReadAsTheDescriptionSays) {
             for (int byte = 0; byte < 256; ++byte) {
                 std::string text = timecode;
                 text[at] = static_cast<char>(byte);
-                ASSERT_EQ(frames(text, 25), plainFrames(text, 25)) << text;
+                ASSERT_EQ(frames(text, 25), judgedFrames(text, 25)) << text;
                 const std::string converted = convertTimecode(text, 25, 50);
                 ASSERT_EQ(frames(converted, 50).has_value(), frames(text, 25).has_value()) << text;
                 if (!frames(text, 25)) continue;
