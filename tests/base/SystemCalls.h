@@ -53,6 +53,15 @@ class ShortWrites {
     ~ShortWrites();
 };
 
+/// For its life, syncing does not wait for the disk.
+class WithoutWaiting {
+  public:
+    WithoutWaiting();
+    WithoutWaiting(const WithoutWaiting&) = delete;
+    WithoutWaiting& operator=(const WithoutWaiting&) = delete;
+    ~WithoutWaiting();
+};
+
 /// For its life, `action` runs once, just before the next `call` does its work.
 class Interruption {
   public:
