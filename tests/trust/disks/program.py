@@ -10,7 +10,6 @@ from contextlib import contextmanager
 from dataclasses import dataclass, field
 from pathlib import Path
 
-SKIPPED = 77  # the exit status of a test that cannot be done here
 PATIENCE = 60  # seconds; a program that takes longer hangs
 
 OPENED = "alert: Check Project Frame Rate | "
@@ -79,11 +78,6 @@ class Wrong(Exception):
 def check(condition, what):
     if not condition:
         raise Wrong(what)
-
-
-def skip(reason):
-    print(f"SKIPPED: {reason}")
-    sys.exit(SKIPPED)
 
 
 def content(path):

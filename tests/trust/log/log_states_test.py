@@ -14,35 +14,22 @@ import sys
 from errno import EACCES, EDQUOT, EINTR, EIO, ENOSPC, EROFS
 from pathlib import Path
 
+sys.path.insert(0, str(Path(__file__).resolve().parent.parent))
+
 import log_states
+import own_mounts
 from log_states import LOG, OLD, SIZE_LIMIT, STATES, clear, expect, messages
 
-SKIPPED = 77
 NOBODY = 65534
 PATIENCE = 20  # seconds; a program that takes longer hangs
-INSIDE = "CLIPVANE_INSIDE_A_NAME_SPACE"
-TOOLS = Path("/mnt")  # which is the test's own, too
+TOOLS = Path("/mnt")
 LINES = ["Process started.", "Open Timeline clicked.", "Zürich 🎬"]
 ERRORS = (EIO, ENOSPC, EDQUOT, EINTR, EACCES, EROFS)
 
 
-def skip(reason):
-    print(f"SKIPPED: {reason}")
-    sys.exit(SKIPPED)
-
-
-def enter_name_space():
-    """Runs this test again where /tmp is nobody else's, with the programs out of its way."""
-    if os.geteuid() != 0:
-        skip("only root can make files of other users and devices")
-    if not os.environ.get(INSIDE):
-        tried = subprocess.run(["unshare", "--mount", "mount", "-t", "tmpfs", "tmpfs", "/mnt"],
-                               capture_output=True)
-        if tried.returncode != 0:
-            skip("no name space for mounts of its own: " + tried.stderr.decode().strip())
-        os.environ[INSIDE] = "1"
-        os.execvp("unshare", ["unshare", "--mount", sys.executable, *sys.argv])
-    subprocess.run(["mount", "-t", "tmpfs", "-o", "mode=755", "tmpfs", TOOLS], check=True)
+def take_own_tmp():
+    """Where /tmp is nobody else's; the programs are out of its way."""
+    own_mounts.enter(as_root=True)
     programs = [shutil.copy(path, TOOLS) for path in sys.argv[1:3]]
     (TOOLS / "trace").touch()
     (TOOLS / "trace").chmod(0o666)
@@ -109,7 +96,7 @@ def check_faults(programs):
 
 
 def main():
-    programs = enter_name_space()
+    programs = take_own_tmp()
     wrong = []
     tried = 0
     for user in (NOBODY, 0):

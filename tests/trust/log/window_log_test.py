@@ -12,21 +12,17 @@ import sys
 from pathlib import Path
 
 HERE = Path(__file__).resolve().parent
-sys.path.insert(0, str(HERE.parent.parent / "e2e"))
+sys.path[:0] = [str(HERE.parent), str(HERE.parent.parent / "e2e")]
 
 import expected
 import log_states
 from desk import HAS_OWN_LOG, run_test
 from hands import press
+from own_mounts import SOMEBODY, skip
 
 SHORT = (log_states.fifo_without_reader, log_states.file_of_another, log_states.full_disk,
          log_states.size_limit_by_signal)
 TIMELINE = HERE.parent.parent / "fixtures" / "harbour.edl"
-
-
-def skip(reason):
-    print(f"SKIPPED: {reason}")
-    sys.exit(77)
 
 
 def check_rights():
@@ -35,7 +31,7 @@ def check_rights():
     probe = Path(os.environ["TMPDIR"]) / "probe"
     probe.touch()
     try:
-        os.chown(probe, log_states.SOMEBODY, log_states.SOMEBODY)
+        os.chown(probe, SOMEBODY, SOMEBODY)
     except OSError as problem:
         skip(f"only root can make files of other users: {problem}")
     probe.unlink()
