@@ -147,11 +147,11 @@ TEST(AtomicFile, InterruptedCalls_AreMadeAgain) {
 TEST(AtomicFile, InterruptedRemovalOfWhatWasWritten_IsMadeAgain) {
     const TemporaryFolder folder;
     writeContent(folder / "file", "old");
-    const Refusal renaming(SystemCall::rename, EACCES);
-    const Refusal removing(SystemCall::unlink, EINTR, 3);
+    const Refusal rename(SystemCall::rename, EACCES);
+    const Refusal remove(SystemCall::unlink, EINTR, 3);
     EXPECT_FALSE(writeFileAtomically(folder / "file", "new"));
     EXPECT_EQ(folder.names(), Names{"file"});
-    EXPECT_EQ(removing.count(), 3);
+    EXPECT_EQ(remove.count(), 3);
 }
 
 TEST(AtomicFile, CreatedBetweenCheckAndLink_IsReplaced) {
@@ -249,8 +249,8 @@ TEST(AtomicFile, ShortWrites_GoOnWhereTheyEnded) {
 TEST(AtomicFile, FailingCloseOfAFileThatIsGivenUp_DoesNotHideTheReason) {
     const TemporaryFolder folder;
     const Refusal noProc(SystemCall::access, ENOENT);
-    const Refusal closing(SystemCall::close, EDQUOT);
-    const Refusal opening(SystemCall::open, EROFS);
+    const Refusal close(SystemCall::close, EDQUOT);
+    const Refusal open(SystemCall::open, EROFS);
     const auto written = writeFileAtomically(folder / "file", "new");
     ASSERT_FALSE(written);
     EXPECT_EQ(written.error(), fileError("written", "file", EROFS));
