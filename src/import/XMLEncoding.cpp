@@ -7,6 +7,7 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <new>
 
 #include "base/UTF8.h"
 
@@ -42,9 +43,24 @@ std::string declaredEncoding(std::string_view data) {
     return std::string(rest.substr(0, rest.find(quote)));
 }
 
+/// Lack of memory must not pass for an unknown encoding.
+void throwIfOutOfMemory(UErrorCode error) {
+    if (error == U_MEMORY_ALLOCATION_ERROR) throw std::bad_alloc();
+}
+
+bool knowsEncoding(const char* name) {
+    UErrorCode error = U_ZERO_ERROR;
+    return ucnv_countAliases(name, &error) > 0;
+}
+
+/// Nothing when ICU knows no such name.
 ConverterPointer openConverter(const char* name) {
     UErrorCode error = U_ZERO_ERROR;
-    return {ucnv_open(name, &error), ucnv_close};
+    ConverterPointer converter(ucnv_open(name, &error), ucnv_close);
+    throwIfOutOfMemory(error);
+    // Without memory for its table of names ICU knows none, and says no more than that.
+    if (!converter && !knowsEncoding("windows-1252")) throw std::bad_alloc();
+    return converter;
 }
 
 /// Whether the converter takes the ASCII that the document begins with for what it is, which the
@@ -55,6 +71,7 @@ bool readsASCII(UConverter& converter) {
     const auto length = ucnv_toUChars(
         &converter, text.data(), static_cast<std::int32_t>(text.size()), declarationStart.data(),
         static_cast<std::int32_t>(declarationStart.size()), &error);
+    throwIfOutOfMemory(error);
     return U_SUCCESS(error) &&
            std::equal(text.data(), text.data() + length, declarationStart.begin(),
                       declarationStart.end(), [](UChar a, char b) { return a == UChar(b); });
@@ -106,6 +123,7 @@ std::string transcode(UConverter& from, std::string_view data) {
                        pivot.data() + pivot.size(), starting, true, &error);
         text.append(piece.data(), target);
         starting = false;
+        throwIfOutOfMemory(error);
         if (error != U_BUFFER_OVERFLOW_ERROR) return text;
     }
 }
