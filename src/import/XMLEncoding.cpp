@@ -19,6 +19,7 @@ using namespace std::string_view_literals;
 using ConverterPointer = std::unique_ptr<UConverter, decltype(&ucnv_close)>;
 
 constexpr std::string_view declarationStart = "<?xml";
+constexpr std::string_view markup = "<?xml =\"'/>&;#![]-:_09";
 constexpr const char* utf8 = "UTF-8";
 constexpr const char* utf16 = "UTF-16";  // the parser finds out which of the two byte orders
 
@@ -63,18 +64,18 @@ ConverterPointer openConverter(const char* name) {
     return converter;
 }
 
-/// Whether the converter takes the ASCII that the document begins with for what it is, which the
-/// wider encodings and EBCDIC do not.
+/// Whether the converter takes the ASCII that markup is made of for what it is, which the wider
+/// encodings and EBCDIC do not, nor those with other quotes in its place.
 bool readsASCII(UConverter& converter) {
-    std::array<UChar, declarationStart.size() * 2> text;
+    std::array<UChar, markup.size() * 2> text;
     UErrorCode error = U_ZERO_ERROR;
-    const auto length = ucnv_toUChars(
-        &converter, text.data(), static_cast<std::int32_t>(text.size()), declarationStart.data(),
-        static_cast<std::int32_t>(declarationStart.size()), &error);
+    const auto length =
+        ucnv_toUChars(&converter, text.data(), static_cast<std::int32_t>(text.size()),
+                      markup.data(), static_cast<std::int32_t>(markup.size()), &error);
     throwIfOutOfMemory(error);
     return U_SUCCESS(error) &&
-           std::equal(text.data(), text.data() + length, declarationStart.begin(),
-                      declarationStart.end(), [](UChar a, char b) { return a == UChar(b); });
+           std::equal(text.data(), text.data() + length, markup.begin(), markup.end(),
+                      [](UChar a, char b) { return a == UChar(b); });
 }
 
 /// Whether documents labelled with the converter's name had better be read as UTF-8: the label is
