@@ -31,6 +31,9 @@ constexpr std::size_t mostLevels = 1'000'000;
 /// The parser calls itself for an entity within an entity, and its stack is not endless.
 constexpr int mostEntitiesWithReferences = 256;
 
+/// The parser compares each default that an element declares for an attribute with all before it.
+constexpr int mostDefaultAttributes = 10'000;
+
 /// How many times its own size a document may grow by its entities, beyond the parser's eight
 /// megabytes for every document.
 constexpr float largestAmplification = 4;
@@ -52,6 +55,7 @@ class ParserRun {
         XML_SetElementHandler(parser.get(), startElement, endElement);
         XML_SetCharacterDataHandler(parser.get(), characters);
         XML_SetEntityDeclHandler(parser.get(), entityDeclaration);
+        XML_SetAttlistDeclHandler(parser.get(), attributeDeclaration);
         XML_SetBillionLaughsAttackProtectionMaximumAmplification(parser.get(),
                                                                  largestAmplification);
     }
@@ -134,6 +138,13 @@ class ParserRun {
         if (++run.entitiesWithReferences > mostEntitiesWithReferences) run.stop();
     }
 
+    static void attributeDeclaration(void* userData, const XML_Char* /*element*/,
+                                     const XML_Char* /*name*/, const XML_Char* /*type*/,
+                                     const XML_Char* value, int /*isRequired*/) {
+        auto& run = *static_cast<ParserRun*>(userData);
+        if (value != nullptr && ++run.defaultAttributes > mostDefaultAttributes) run.stop();
+    }
+
     CommonTimelineXMLDelegate& delegate;
     std::unique_ptr<XML_ParserStruct, decltype(&XML_ParserFree)> parser;
     std::exception_ptr failure;
@@ -142,6 +153,7 @@ class ParserRun {
     std::size_t level = 0;
     std::size_t effortAllowed = 0;
     int entitiesWithReferences = 0;
+    int defaultAttributes = 0;
 };
 
 }  // namespace

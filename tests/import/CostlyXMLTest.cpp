@@ -55,13 +55,21 @@ TEST(CostlyXML, EndlesslyDeepDocument_EndsWithTheMillionthLevel) {
     EXPECT_EQ(eventCount("<a><clip/><b><b>" + inner + "</b></b><clip/></a>"), 1U);
 }
 
-/// 30,000 attributes for each of 100,000 elements.
-TEST(CostlyXML, DefaultAttributesWithoutEnd_AreMalformed) {
+/// Elements that get `count` attributes each from their declaration.
+std::string withDefaults(int count, std::size_t elements) {
     std::string xml = "<!DOCTYPE a [<!ATTLIST b";
-    for (int i = 0; i < 30'000; ++i) xml += " a" + std::to_string(i) + " CDATA '1'";
-    xml += ">]><a><clip/>";
-    EXPECT_EQ(eventCount(xml + repeated("<b/>", 10) + "<clip/></a>"), 2U);
-    EXPECT_EQ(eventCount(xml + repeated("<b/>", 100'000) + "<clip/></a>"), 1U);
+    for (int i = 0; i < count; ++i) xml += " a" + std::to_string(i) + " CDATA '1'";
+    return xml + ">]><a><clip/>" + repeated("<b/>", elements) + "<clip/></a>";
+}
+
+TEST(CostlyXML, DefaultAttributesForManyElements_AreMalformed) {
+    EXPECT_EQ(eventCount(withDefaults(10'000, 10)), 2U);
+    EXPECT_EQ(eventCount(withDefaults(10'000, 100'000)), 1U);
+}
+
+TEST(CostlyXML, DefaultAttributesWithoutEnd_AreMalformed) {
+    EXPECT_EQ(eventCount(withDefaults(10'001, 1)), 0U);
+    EXPECT_EQ(eventCount(withDefaults(400'000, 1)), 0U);
 }
 
 /// A megabyte that each of a hundred thousand end tags asks for.

@@ -145,7 +145,7 @@ class Runner:
         bytes_written = place.write(size)
         events = case.expected.count(size) if isinstance(case.expected, Loaded) else 0
         # Two seconds, and in proportion to what the machine does at the very least; a sanitizer takes its time.
-        seconds = (2 + bytes_written // 10_000_000 + events // 250_000) * (30 if self.functions_only else 1)
+        seconds = (2 + bytes_written // 5_000_000 + events // 250_000) * (30 if self.functions_only else 1)
         result = place.run(self.program, seconds)
         self.runs += 1
         self.largest = max(self.largest, bytes_written)

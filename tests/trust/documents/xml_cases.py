@@ -63,15 +63,16 @@ def parameter_laughs(size, folder):
     yield b"%p29;]>" + HEAD + TAIL
 
 
-def default_attributes(size, folder):
-    """Attributes that every element gets, and as many elements."""
-    count = max(1, size // 2 // 24)
-    yield b"<!DOCTYPE a [<!ATTLIST b"
-    for i in range(count):
-        yield b" a%07d CDATA 'value'" % i
-    yield b">]>" + HEAD
-    yield from repeated(b"<b/>", size // 2)
-    yield TAIL
+def default_attributes(declared):
+    """Attributes that every element gets, for so many bytes, and elements for the rest."""
+    def content(size, folder):
+        yield b"<!DOCTYPE a [<!ATTLIST b"
+        for i in range(max(1, declared(size) // 24)):
+            yield b" a%07d CDATA 'value'" % i
+        yield b">]>" + HEAD
+        yield from repeated(b"<b/>", size // 2)
+        yield TAIL
+    return content
 
 
 def shared_asset(size, folder):
@@ -169,13 +170,17 @@ CASES = [
     inside("references-in-a-name", b"<clip><name>", b"&#65;", b"</name></clip>", 3),
     xml("entity-declarations", numbered(b"<!DOCTYPE a [", b"<!ENTITY e%d 'x'>", b"]>" + HEAD + TAIL), 2),
     xml("element-declarations", numbered(b"<!DOCTYPE a [", b"<!ELEMENT e%d ANY>", b"]>" + HEAD + TAIL), 2),
-    xml("default-attributes", default_attributes, lambda size: 2 if size < 60000 else 1),
+    xml("default-attributes-of-many-elements", default_attributes(lambda size: min(size // 2, 200000)),
+        lambda size: 2 if size < 30000 else 1),
+    xml("default-attributes", default_attributes(lambda size: size // 2), lambda size:
+        2 if size < 30000 else 1 if size < 480000 else 0),
     xml("groups-in-groups", around(b"<!DOCTYPE a [<!ELEMENT a ", b"(", b"a"), 0),
     # Depth and width.
-    xml("levels", nested(b"<b>", b"</b>", TAIL), 2),
+    xml("levels", nested(b"<b>", b"</b>", TAIL), lambda size: 2 if size < 6000000 else 1),
     xml("levels-left-open", around(HEAD, b"<b>"), 1),
-    xml("levels-with-name-spaces", nested(b"<n:b xmlns:n='u'>", b"</n:b>", TAIL), 2),
-    xml("clips-in-clips", nested(b"<clip>", b"</clip>"), lambda size: 1 + size // 13),
+    xml("levels-with-name-spaces", nested(b"<n:b xmlns:n='u'>", b"</n:b>", TAIL),
+        lambda size: 2 if size < 22000000 else 1),
+    xml("clips-in-clips", nested(b"<clip>", b"</clip>"), lambda size: min(1 + size // 13, 1000000)),
     xml("clips-left-open", around(HEAD, b"<clip>"), lambda size: min(1 + size // 6, 1000000)),
     xml("attributes", numbered(HEAD + b"<clip", b" a%d=''", b"/>" + TAIL), 3),
     xml("attributes-elsewhere", numbered(HEAD + b"<b", b" a%d=''", b"/>" + TAIL), 2),
