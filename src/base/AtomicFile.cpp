@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <optional>
 
@@ -14,44 +15,103 @@ namespace clipvane {
 namespace {
 
 constexpr std::size_t largestWrite = 0x7ffff000;  // what the kernel moves in one call
-constexpr int mostLinks = 40;                     // the kernel's own limit in following links
-constexpr mode_t newFileMode = 0666;              // less the process's file mode mask
+constexpr std::size_t copiedAtOnce = 0x10000;
+constexpr int mostLinks = 40;         // the kernel's own limit in following links
+constexpr int mostTries = 10;         // at a place that others take and leave all the time
+constexpr mode_t newFileMode = 0666;  // less the process's file mode mask
 constexpr mode_t permissionBits = 07777;
+
+/// Zero or an errno value.
+int lookAt(const std::filesystem::path& path, struct stat& status) {
+    return uninterrupted([&] { return ::lstat(path.c_str(), &status); }) == 0 ? 0 : errno;
+}
+
+/// Zero or an errno value.
+int readLink(const std::filesystem::path& link, std::filesystem::path& target) {
+    std::error_code error;
+    do {
+        target = std::filesystem::read_symlink(link, error);
+    } while (error.value() == EINTR);
+    return error.value();
+}
 
 /// The place that `path` leads to through its links; a dangling link leads to a place without a
 /// file. Zero or an errno value.
 int followLinks(std::filesystem::path& path) {
     for (int followed = 0; followed <= mostLinks; ++followed) {
         struct stat status {};
-        if (::lstat(path.c_str(), &status) != 0) return errno == ENOENT ? 0 : errno;
+        if (const int code = lookAt(path, status)) return code == ENOENT ? 0 : code;
         if (!S_ISLNK(status.st_mode)) return 0;
-        std::error_code error;
-        const std::filesystem::path target = std::filesystem::read_symlink(path, error);
-        if (error) return error.value();
+        std::filesystem::path target;
+        if (const int code = readLink(path, target)) return code;
         path = path.parent_path() / target;  // an absolute target replaces the folder
     }
     return ELOOP;
 }
 
-/// The permissions of the regular file at `place`; nothing when nothing is there. Otherwise the
-/// error for `destination`, since nothing but a regular file is ever replaced.
-Result<std::optional<mode_t>> replacedMode(const std::filesystem::path& place,
-                                           const std::filesystem::path& destination) {
-    const auto failed = [&](int code) {
-        return tl::unexpected(fileError("written", destination, code));
-    };
+/// The regular file at `place`; nothing when nothing is there. Otherwise the error for
+/// `destination`, since nothing but a regular file is ever replaced.
+Result<std::optional<struct stat>> replacedFile(const std::filesystem::path& place,
+                                                const std::filesystem::path& destination) {
     struct stat status {};
-    if (::lstat(place.c_str(), &status) != 0) {
-        if (errno == ENOENT) return std::nullopt;
-        return failed(errno);
+    if (const int code = lookAt(place, status)) {
+        if (code == ENOENT) return std::nullopt;
+        return tl::unexpected(fileError("written", destination, code));
     }
-    if (S_ISDIR(status.st_mode)) return failed(EISDIR);
+    if (S_ISDIR(status.st_mode)) {
+        return tl::unexpected(fileError("written", destination, EISDIR));
+    }
     if (!S_ISREG(status.st_mode)) {
         return tl::unexpected(Error{"POSIX", EINVAL,
                                     "The file \"" + displayName(destination) +
                                         "\" could not be written: Not a regular file."});
     }
-    return status.st_mode & permissionBits;
+    return status;
+}
+
+/// Gives the open file the group and the permissions of the one that it is to replace, as far as
+/// the system lets it: not every file system has them, and the export does not fail for that.
+void keepPermissions(int file, const struct stat& replaced) {
+    constexpr auto sameOwner = static_cast<uid_t>(-1);
+    [[maybe_unused]] const int group =
+        uninterrupted([&] { return ::fchown(file, sameOwner, replaced.st_gid); });
+    mode_t mode = replaced.st_mode & permissionBits;
+    // What somebody else's program may do in his name is not to be done in the new owner's.
+    if (replaced.st_uid != ::geteuid()) mode &= ~static_cast<mode_t>(S_ISUID | S_ISGID);
+    static_cast<void>(uninterrupted([&] { return ::fchmod(file, mode); }));
+}
+
+/// Zero or an errno value.
+int writeAll(int file, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t put = uninterrupted(
+            [&] { return ::write(file, bytes.data(), std::min(bytes.size(), largestWrite)); });
+        if (put < 0) return errno;
+        if (put == 0) return EIO;  // nothing was taken, and no reason given: no use in going on
+        bytes.remove_prefix(static_cast<std::size_t>(put));
+    }
+    return 0;
+}
+
+/// Writes all that the file `from` holds to `to`. Zero or an errno value.
+int copyAll(int from, int to) {
+    if (uninterrupted([&] { return ::lseek(from, 0, SEEK_SET); }) != 0) return errno;
+    std::array<char, copiedAtOnce> bytes;
+    while (true) {
+        const ssize_t got = uninterrupted([&] { return ::read(from, bytes.data(), bytes.size()); });
+        if (got < 0) return errno;
+        if (got == 0) return 0;
+        if (const int code = writeAll(to, {bytes.data(), static_cast<std::size_t>(got)})) {
+            return code;
+        }
+    }
+}
+
+/// Makes the new name in the folder outlast a power failure, where the system can.
+void syncFolder(const std::filesystem::path& folder) {
+    const Descriptor open = openFile(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (!open.isOpen()) return;
+    static_cast<void>(uninterrupted([&] { return ::fsync(open.number()); }));
 }
 
 std::string procLink(int descriptor) {
@@ -72,7 +132,8 @@ AtomicFile::AtomicFile(AtomicFile&& other) noexcept
 }
 
 AtomicFile::~AtomicFile() {
-    if (!temporary.empty()) ::unlink(temporary.c_str());
+    if (temporary.empty()) return;
+    static_cast<void>(uninterrupted([&] { return ::unlink(temporary.c_str()); }));
 }
 
 tl::unexpected<Error> AtomicFile::failed(int code) const {
@@ -85,82 +146,97 @@ Result<AtomicFile> AtomicFile::create(const std::filesystem::path& destination) 
     AtomicFile file(destination, std::move(place));
     if (linkCode != 0) return file.failed(linkCode);
 
-    const auto replaced = replacedMode(file.place, destination);
+    const auto replaced = replacedFile(file.place, destination);
     if (!replaced) return tl::unexpected(replaced.error());
     // Whoever may not read the old content may not read the new one while it is written either.
-    if (const int code = file.open(replaced->value_or(newFileMode) & newFileMode)) {
-        return file.failed(code);
-    }
+    const mode_t mode = *replaced ? (*replaced)->st_mode & newFileMode : newFileMode;
+    if (const int code = file.open(mode)) return file.failed(code);
     return file;
+}
+
+std::filesystem::path AtomicFile::folder() const {
+    return place.has_parent_path() ? place.parent_path() : ".";
+}
+
+std::filesystem::path AtomicFile::hiddenName() const {
+    UUIDGenerator generator;
+    return folder() / (".clipvane-" + generator.next().text());
 }
 
 /// Opens a file without a name, which vanishes by itself if the process is killed, or a hidden one
 /// beside the destination where the system cannot do the first. Zero or an errno value.
 int AtomicFile::open(mode_t mode) {
-    std::filesystem::path folder = place.parent_path();
-    if (folder.empty()) folder = ".";
-    file = openFile(folder.c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, mode);
+    file = openFile(folder().c_str(), O_TMPFILE | O_RDWR | O_CLOEXEC, mode);
     // Giving it a name later needs /proc.
-    if (file.isOpen() && ::access(procLink(file.number()).c_str(), F_OK) == 0) return 0;
+    const auto hasLink = [&] { return ::access(procLink(file.number()).c_str(), F_OK); };
+    if (file.isOpen() && uninterrupted(hasLink) == 0) return 0;
+    file = {};
+    return openNamed(mode);
+}
 
-    UUIDGenerator generator;
-    const std::filesystem::path name = folder / (".clipvane-" + generator.next().text());
+int AtomicFile::openNamed(mode_t mode) {
+    std::filesystem::path name = hiddenName();
     file = openFile(name.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, mode);
     if (!file.isOpen()) return errno;
-    temporary = name;
+    temporary = std::move(name);
     return 0;
 }
 
+/// Puts the content of the file without a name into a hidden one. Zero or an errno value.
+int AtomicFile::moveToNamed() {
+    const Descriptor nameless = std::move(file);
+    struct stat status {};
+    if (uninterrupted([&] { return ::fstat(nameless.number(), &status); }) != 0) return errno;
+    if (const int code = openNamed(status.st_mode & newFileMode)) return code;
+    return copyAll(nameless.number(), file.number());
+}
+
 Result<void> AtomicFile::write(std::string_view bytes) {
-    while (!bytes.empty()) {
-        const ssize_t put =
-            ::write(file.number(), bytes.data(), std::min(bytes.size(), largestWrite));
-        if (put < 0 && errno == EINTR) continue;
-        if (put < 0) return failed(errno);
-        bytes.remove_prefix(static_cast<std::size_t>(put));
-    }
+    if (const int code = writeAll(file.number(), bytes)) return failed(code);
     return {};
 }
 
 Result<void> AtomicFile::commit() {
-    // Asked again: somebody may have put something else there meanwhile.
-    const auto replaced = replacedMode(place, destination);
-    if (!replaced) return tl::unexpected(replaced.error());
-    // Some file systems have no permissions to set; the export does not fail for that.
-    if (*replaced) static_cast<void>(::fchmod(file.number(), **replaced));
-
-    while (::fsync(file.number()) != 0) {
-        if (errno != EINTR) return failed(errno);
-    }
-    if (temporary.empty() && !*replaced) {
-        const int code = linkAt(place);
-        if (code == 0) return {};
-        if (code != EEXIST) return failed(code);  // EEXIST: somebody else was faster; replace it
-    }
-    if (temporary.empty()) {
-        if (const int code = linkTemporary()) return failed(code);
-    }
-    if (const int code = file.close()) return failed(code);
-    if (::rename(temporary.c_str(), place.c_str()) != 0) return failed(errno);
-    temporary.clear();
+    if (auto placed = takePlace(); !placed) return placed;
+    syncFolder(folder());  // whether that fails or not: the content is in its place
     return {};
 }
 
-int AtomicFile::linkAt(const std::filesystem::path& name) {
-    const std::string content = procLink(file.number());
-    return ::linkat(AT_FDCWD, content.c_str(), AT_FDCWD, name.c_str(), AT_SYMLINK_FOLLOW) == 0
-               ? 0
-               : errno;
+Result<void> AtomicFile::takePlace() {
+    for (int tries = 0; tries < mostTries; ++tries) {
+        // Asked again: somebody may have put something else there meanwhile.
+        const auto replaced = replacedFile(place, destination);
+        if (!replaced) return tl::unexpected(replaced.error());
+        if (*replaced) keepPermissions(file.number(), **replaced);
+        if (uninterrupted([&] { return ::fsync(file.number()); }) != 0) return failed(errno);
+
+        if (temporary.empty()) {
+            // A file without a name cannot replace another one; it needs one for the moment before.
+            std::filesystem::path name = *replaced ? hiddenName() : place;
+            const int code = linkAt(name);
+            if (code == EEXIST) continue;
+            if (code != 0) {  // some file systems have no second names, so they cannot give a first
+                if (const int other = moveToNamed()) return failed(other);
+                continue;
+            }
+            if (!*replaced) return {};
+            temporary = std::move(name);
+        }
+        if (const int code = file.close()) return failed(code);
+        const auto replace = [&] { return ::rename(temporary.c_str(), place.c_str()); };
+        if (uninterrupted(replace) != 0) return failed(errno);
+        temporary.clear();
+        return {};
+    }
+    return failed(EEXIST);
 }
 
-/// A file without a name cannot replace another one; it needs a name for the moment before.
-int AtomicFile::linkTemporary() {
-    UUIDGenerator generator;
-    const std::filesystem::path name =
-        place.parent_path() / (".clipvane-" + generator.next().text());
-    if (const int code = linkAt(name)) return code;
-    temporary = name;
-    return 0;
+int AtomicFile::linkAt(const std::filesystem::path& name) const {
+    const std::string content = procLink(file.number());
+    const auto link = [&] {
+        return ::linkat(AT_FDCWD, content.c_str(), AT_FDCWD, name.c_str(), AT_SYMLINK_FOLLOW);
+    };
+    return uninterrupted(link) == 0 ? 0 : errno;
 }
 
 Result<void> writeFileAtomically(const std::filesystem::path& destination, std::string_view text) {

@@ -15,9 +15,9 @@ namespace clipvane {
 /// between.
 ///
 /// Links to the destination are followed, and only a regular file is ever replaced; it keeps its
-/// permissions, where the file system has them. The content is on the disk before it takes its
-/// place. Until `commit` succeeds nothing is visible at the destination, and what was written is
-/// gone with this object.
+/// permissions and its group, where the system lets them be kept. The content is on the disk before
+/// it takes its place. Until `commit` succeeds nothing is visible at the destination, and what was
+/// written is gone with this object.
 ///
 ///     auto file = AtomicFile::create(path);
 ///     if (!file) return tl::unexpected(file.error());
@@ -40,8 +40,12 @@ class AtomicFile {
     AtomicFile(std::filesystem::path destination, std::filesystem::path place);
 
     int open(mode_t mode);
-    int linkAt(const std::filesystem::path& name);
-    int linkTemporary();
+    int openNamed(mode_t mode);
+    int moveToNamed();
+    Result<void> takePlace();
+    int linkAt(const std::filesystem::path& name) const;
+    std::filesystem::path folder() const;
+    std::filesystem::path hiddenName() const;
     tl::unexpected<Error> failed(int code) const;
 
     std::filesystem::path destination;  ///< as the caller named it

@@ -8,6 +8,14 @@
 
 namespace clipvane {
 
+/// Makes a system call, again as long as a signal interrupts it. Gives its result.
+template <class Call>
+auto uninterrupted(Call call) {
+    auto result = call();
+    while (result < 0 && errno == EINTR) result = call();
+    return result;
+}
+
 /// Owns an open file descriptor and closes it at the end of its life.
 class Descriptor {
   public:
@@ -38,11 +46,7 @@ class Descriptor {
 
 /// Opens as open(2) does, again when a signal interrupted it. Not open, with errno set, on failure.
 inline Descriptor openFile(const char* path, int flags, mode_t mode = 0) {
-    int number = -1;
-    do {
-        number = ::open(path, flags, mode);
-    } while (number < 0 && errno == EINTR);
-    return Descriptor(number);
+    return Descriptor(uninterrupted([&] { return ::open(path, flags, mode); }));
 }
 
 }  // namespace clipvane

@@ -49,13 +49,21 @@ class GrowingBytes {
 int readToEnd(int descriptor, GrowingBytes& bytes) {
     while (true) {
         if (bytes.freeCount() == 0) bytes.grow();
-        const ssize_t got =
-            ::read(descriptor, bytes.free(), std::min(bytes.freeCount(), largestRead));
-        if (got < 0 && errno == EINTR) continue;
+        const std::size_t count = std::min(bytes.freeCount(), largestRead);
+        const ssize_t got = uninterrupted([&] { return ::read(descriptor, bytes.free(), count); });
         if (got < 0) return errno;
         if (got == 0) return 0;
         bytes.use(static_cast<std::size_t>(got));
     }
+}
+
+/// Refuses all but a regular file.
+Result<void> checkKind(const struct stat& status, const std::filesystem::path& path) {
+    if (S_ISREG(status.st_mode)) return {};
+    if (S_ISDIR(status.st_mode)) return tl::unexpected(fileError("read", path, EISDIR));
+    return tl::unexpected(
+        Error{"POSIX", EINVAL,
+              "The file \"" + displayName(path) + "\" could not be read: Not a regular file."});
 }
 
 }  // namespace
@@ -63,18 +71,17 @@ int readToEnd(int descriptor, GrowingBytes& bytes) {
 Result<FileBytes> readFile(const std::filesystem::path& path) try {
     const auto failed = [&](int code) { return tl::unexpected(fileError("read", path, code)); };
 
-    // Without O_NONBLOCK, opening a FIFO would wait for somebody to write into it.
+    // Looked at before it is opened: a device may act on being opened alone.
+    struct stat status {};
+    if (uninterrupted([&] { return ::stat(path.c_str(), &status); }) != 0) return failed(errno);
+    if (auto checked = checkKind(status, path); !checked) return tl::unexpected(checked.error());
+
+    // And afterwards, should somebody have been faster; without O_NONBLOCK, opening a FIFO would
+    // wait for somebody to write into it.
     const Descriptor file = openFile(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
     if (!file.isOpen()) return failed(errno);
-
-    struct stat status {};
-    if (::fstat(file.number(), &status) != 0) return failed(errno);
-    if (S_ISDIR(status.st_mode)) return failed(EISDIR);
-    if (!S_ISREG(status.st_mode)) {
-        return tl::unexpected(
-            Error{"POSIX", EINVAL,
-                  "The file \"" + displayName(path) + "\" could not be read: Not a regular file."});
-    }
+    if (uninterrupted([&] { return ::fstat(file.number(), &status); }) != 0) return failed(errno);
+    if (auto checked = checkKind(status, path); !checked) return tl::unexpected(checked.error());
 
     // One byte more than the size lets the last read report the end instead of growing first.
     GrowingBytes bytes(static_cast<std::size_t>(status.st_size) + 1);

@@ -31,7 +31,7 @@ bool isOwn(const struct stat& status) {
 std::optional<std::filesystem::path> ownPlace(std::filesystem::path path) {
     for (int followed = 0; followed <= mostLinks; ++followed) {
         struct stat status {};
-        if (::lstat(path.c_str(), &status) != 0) {
+        if (uninterrupted([&] { return ::lstat(path.c_str(), &status); }) != 0) {
             return errno == ENOENT ? std::optional(path) : std::nullopt;
         }
         if (!isOwn(status)) return std::nullopt;
@@ -53,7 +53,8 @@ Descriptor openLog(const std::filesystem::path& path) {
     Descriptor file = openFile(place->c_str(), openFlags, newFileMode);
     // What lies there may have changed since it was looked at.
     struct stat status {};
-    if (!file.isOpen() || ::fstat(file.number(), &status) != 0) return {};
+    if (!file.isOpen()) return {};
+    if (uninterrupted([&] { return ::fstat(file.number(), &status); }) != 0) return {};
     if (!S_ISREG(status.st_mode) || !isOwn(status)) return {};
     return file;
 }
@@ -88,8 +89,8 @@ std::optional<std::string> logLine(std::chrono::system_clock::time_point time,
 void appendLogLine(const std::filesystem::path& path, std::string_view line) {
     const Descriptor file = openLog(path);
     while (file.isOpen() && !line.empty()) {
-        const ssize_t put = ::write(file.number(), line.data(), line.size());
-        if (put < 0 && errno == EINTR) continue;
+        const ssize_t put =
+            uninterrupted([&] { return ::write(file.number(), line.data(), line.size()); });
         if (put <= 0) return;
         line.remove_prefix(static_cast<std::size_t>(put));
     }

@@ -63,6 +63,49 @@ TEST(AtomicFile, ReplacedFile_KeepsItsPermissions) {
     }
 }
 
+/// A file of another user or group, which only root can make.
+class ForeignFile : public testing::Test {
+  protected:
+    void SetUp() override {
+        if (::geteuid() != 0) GTEST_SKIP() << "only root can make files of other users";
+    }
+
+    void makeFile(uid_t user, gid_t group, mode_t mode) const {
+        writeContent(folder / "file", "old");
+        ASSERT_EQ(::chown((folder / "file").c_str(), user, group), 0);
+        ASSERT_EQ(::chmod((folder / "file").c_str(), mode), 0);
+    }
+
+    const TemporaryFolder folder;
+};
+
+TEST_F(ForeignFile, Group_IsKept) {
+    makeFile(0, 65533, 0640);
+    EXPECT_TRUE(writeFileAtomically(folder / "file", "new"));
+    struct stat status {};
+    ASSERT_EQ(::stat((folder / "file").c_str(), &status), 0);
+    EXPECT_EQ(status.st_gid, 65533U);
+    EXPECT_EQ(modeOf(folder / "file"), 0640U);
+}
+
+TEST_F(ForeignFile, GroupThatTheUserIsNotIn_DoesNotStopTheExport) {
+    std::filesystem::permissions(folder.path(), std::filesystem::perms{0777});
+    makeFile(0, 65533, 0664);
+    const WithoutPrivileges ordinaryUser;
+    EXPECT_TRUE(writeFileAtomically(folder / "file", "new"));
+    EXPECT_EQ(contentOf(folder / "file"), "new");
+    EXPECT_EQ(modeOf(folder / "file"), 0664U);
+}
+
+TEST_F(ForeignFile, RightsThatGoWithTheOwner_DoNotPassToANewOne) {
+    makeFile(65533, 65533, 06755);
+    EXPECT_TRUE(writeFileAtomically(folder / "file", "new"));
+    EXPECT_EQ(modeOf(folder / "file"), 0755U);
+    makeFile(0, 0, 06755);
+    EXPECT_TRUE(writeFileAtomically(folder / "file", "new"));
+    EXPECT_EQ(modeOf(folder / "file"), 06755U);
+}
+
 TEST(AtomicFile, ReadOnlyFileInAWritableFolder_IsReplaced) {
     const TemporaryFolder folder;
     std::filesystem::permissions(folder.path(), std::filesystem::perms{0777});

@@ -89,6 +89,27 @@ TEST(ReadFile, FIFO_IsRefusedWithoutWaiting) {
     ::alarm(0);
 }
 
+TEST(ReadFile, WhatMightActOnBeingOpened_IsNotOpened) {
+    const TemporaryFolder folder;
+    ASSERT_EQ(::mkfifo((folder / "fifo").c_str(), 0600), 0);
+    const Refusal opening(SystemCall::open, EIO);
+    EXPECT_EQ(errorOf(readFile(folder / "fifo")).code, EINVAL);
+    EXPECT_EQ(errorOf(readFile("/dev/null")).code, EINVAL);
+    EXPECT_EQ(opening.count(), 0);
+}
+
+TEST(ReadFile, FIFOPutThereMeanwhile_IsRefusedWithoutWaiting) {
+    const TemporaryFolder folder;
+    writeContent(folder / "cut.edl", "text");
+    const Interruption meanwhile(SystemCall::open, [&] {
+        std::filesystem::remove(folder / "cut.edl");
+        ::mkfifo((folder / "cut.edl").c_str(), 0600);
+    });
+    ::alarm(10);  // ends the test if it waits
+    EXPECT_EQ(errorOf(readFile(folder / "cut.edl")).code, EINVAL);
+    ::alarm(0);
+}
+
 TEST(ReadFile, Device_IsRefused) {
     EXPECT_EQ(errorOf(readFile("/dev/null")),
               (Error{"POSIX", EINVAL, "The file \"null\" could not be read: Not a regular file."}));
@@ -103,7 +124,9 @@ TEST(ReadFile, Socket_IsRefused) {
     std::memcpy(address.sun_path, path.data(), path.size());
     const int socket = ::socket(AF_UNIX, SOCK_STREAM, 0);
     ASSERT_EQ(::bind(socket, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
-    EXPECT_EQ(errorOf(readFile(path)).code, ENXIO);
+    EXPECT_EQ(
+        errorOf(readFile(path)),
+        (Error{"POSIX", EINVAL, "The file \"cut.edl\" could not be read: Not a regular file."}));
     ::close(socket);
 }
 
@@ -155,12 +178,16 @@ TEST(ReadFile, GrownMeanwhile_GivesAllThatIsThere) {
 TEST(ReadFile, InterruptedCalls_AreMadeAgain) {
     const TemporaryFolder folder;
     writeContent(folder / "file", "text");
+    const Refusal looking(SystemCall::stat, EINTR, 2);
     const Refusal opening(SystemCall::open, EINTR, 2);
+    const Refusal lookingAgain(SystemCall::fstat, EINTR, 2);
     const Refusal reading(SystemCall::read, EINTR, 3);
     const auto bytes = readFile(folder / "file");
     ASSERT_TRUE(bytes);
     EXPECT_EQ(bytes->view(), "text");
+    EXPECT_EQ(looking.count(), 2);
     EXPECT_EQ(opening.count(), 2);
+    EXPECT_EQ(lookingAgain.count(), 2);
     EXPECT_EQ(reading.count(), 3);
 }
 

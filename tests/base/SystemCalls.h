@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
 
 namespace clipvane::test {
@@ -10,22 +11,28 @@ enum class SystemCall {
     openWithoutName,
     open,
     access,
+    stat,
+    lstat,
+    fstat,
+    lseek,
     read,
     write,
     fsync,
     fchmod,
+    fchown,
     linkat,
     rename,
+    unlink,
     close,
 };
 
 /// For its life, or for the given number of calls, `call` fails with `error` without doing its
-/// work.
+/// work; the first `spared` calls are left alone.
 class Refusal {
   public:
     static constexpr int always = -1;
 
-    Refusal(SystemCall call, int error, int times = always);
+    Refusal(SystemCall call, int error, int times = always, int spared = 0);
     Refusal(const Refusal&) = delete;
     Refusal& operator=(const Refusal&) = delete;
     ~Refusal();
@@ -35,6 +42,24 @@ class Refusal {
 
   private:
     SystemCall call;
+};
+
+/// For its life, a write takes at most `most` bytes.
+class ShortWrites {
+  public:
+    explicit ShortWrites(std::size_t most);
+    ShortWrites(const ShortWrites&) = delete;
+    ShortWrites& operator=(const ShortWrites&) = delete;
+    ~ShortWrites();
+};
+
+/// For its life, syncing does not wait for the disk.
+class WithoutWaiting {
+  public:
+    WithoutWaiting();
+    WithoutWaiting(const WithoutWaiting&) = delete;
+    WithoutWaiting& operator=(const WithoutWaiting&) = delete;
+    ~WithoutWaiting();
 };
 
 /// For its life, `action` runs once, just before the next `call` does its work.

@@ -1,12 +1,16 @@
-"""Data that nobody would type: endless names, markup, line breaks, scripts written to the left."""
+"""Data that nobody would type: endless names, markup, line breaks, scripts written to the left,
+file names that are no text."""
 
 import os
 import time
+from pathlib import Path
 
 from access import rectangle, role_of, walk
 from desk import run_test
-from hands import press, type_text, xdotool
+from hands import press, put_on_clipboard, type_text, xdotool
 from waiting import PATIENCE, wait_equal
+
+FIXTURES = Path(__file__).resolve().parent.parent / "fixtures"
 
 ENDLESS = "N" * 1_000_000
 MARKUP = "<h1>&amp;<br>&lt;img src=x&gt;"
@@ -99,6 +103,38 @@ def long_alert(desk, path):
         desk.await_window("Clipvane")
 
 
+def not_utf8(desk, folder):
+    """A file whose name no text can hold: the panel does not offer it, so that no other file is
+    taken for it; by a link it opens."""
+    odd = os.fsencode(folder) + b"/odd\xff.edl"
+    Path(os.fsdecode(odd)).write_bytes((FIXTURES / "harbour.edl").read_bytes())
+    (folder / "link.edl").symlink_to(os.fsdecode(odd))
+    status = desk.status()
+    with desk.step("a name of invalid UTF-8 is not offered, nor found as it would be shown"):
+        desk.button("Open Timeline")
+        desk.await_window("Open Timeline")
+        desk.await_focus("text", "File name:")
+        put_on_clipboard(str(folder / "odd\ufffd.edl"))
+        press("ctrl+a", "ctrl+v", "Return")
+        message = desk.find("label", "odd\ufffd.edl\nFile not found.\nPlease verify the correct "
+                                     "file name was given.")
+        check_on_screen(desk, message)
+        press("Return")
+        desk.await_focus("text", "File name:")
+        desk.find("table cell", "link.edl")
+        assert not [n.name for n in walk(desk.app) if n.name.startswith("odd")], "offered"
+        desk.button("Cancel")
+        desk.await_window("Clipvane")
+        desk.await_status(status)
+    with desk.step("by a link it opens"):
+        desk.button("Open Timeline")
+        desk.choose_file("Open Timeline", folder / "link.edl")
+        desk.alert("Check Project Frame Rate")
+        press("Return")
+        desk.await_window("Clipvane")
+        desk.await_status("Loaded 6 events from link.edl. FPS: 24 (Default).")
+
+
 def awkward(desk):
     folder = desk.output / "<i>folder & more"
     folder.mkdir()
@@ -110,6 +146,7 @@ def awkward(desk):
     walk_the_list(desk)
     long_comment(desk)
     long_alert(desk, bad)
+    not_utf8(desk, folder)
     with desk.step("leave"):
         desk.close_window("Clipvane")
         desk.await_end()
