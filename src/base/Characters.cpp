@@ -12,22 +12,6 @@ constexpr bool isGraphicASCII(char c) {
     return c > ' ' && c < '\x7F';
 }
 
-template <class Predicate>
-std::string_view trim(std::string_view text, Predicate isTrimmed) {
-    if (!text.empty() && isGraphicASCII(text.front()) && isGraphicASCII(text.back())) return text;
-    while (!text.empty()) {
-        const CodePoint first = firstCodePoint(text);
-        if (!isTrimmed(first.value)) break;
-        text.remove_prefix(first.length);
-    }
-    while (!text.empty()) {
-        const CodePoint last = lastCodePoint(text);
-        if (!isTrimmed(last.value)) break;
-        text.remove_suffix(last.length);
-    }
-    return text;
-}
-
 }  // namespace
 
 bool isWhiteSpaceBeyondASCII(char32_t c) {
@@ -38,12 +22,19 @@ bool isDecimalDigitBeyondASCII(char32_t c) {
     return u_isdigit(static_cast<UChar32>(c)) != 0;
 }
 
-std::string_view trimBlanks(std::string_view text) {
-    return trim(text, isBlank);
-}
-
 std::string_view trimBlanksAndNewlines(std::string_view text) {
-    return trim(text, [](char32_t c) { return isBlank(c) || isNewline(c); });
+    if (!text.empty() && isGraphicASCII(text.front()) && isGraphicASCII(text.back())) return text;
+    while (!text.empty()) {
+        const CodePoint first = firstCodePoint(text);
+        if (!isWhiteSpace(first.value)) break;
+        text.remove_prefix(first.length);
+    }
+    while (!text.empty()) {
+        const CodePoint last = lastCodePoint(text);
+        if (!isWhiteSpace(last.value)) break;
+        text.remove_suffix(last.length);
+    }
+    return text;
 }
 
 }  // namespace clipvane

@@ -39,10 +39,7 @@ constexpr char asciiLower(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
-/// `text` without the blanks at both ends.
-std::string_view trimBlanks(std::string_view text);
-
-/// `text` without the blanks and newlines at both ends.
+/// `text` without the blanks and newlines, which together are the white space, at both ends.
 std::string_view trimBlanksAndNewlines(std::string_view text);
 
 }  // namespace clipvane

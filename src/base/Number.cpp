@@ -40,20 +40,19 @@ bool isTooLarge(std::string_view literal, bool hexadecimal) {
     return places * (hexadecimal ? 4 : 1) + exponent > 0;
 }
 
-/// The value of up to fifteen digits, which a double holds exactly; nothing for any other text.
-std::optional<double> parseShortDigits(std::string_view text) {
+/// The value of up to fifteen digits, which a double holds exactly; -1 for any other text.
+std::int64_t parseShortDigits(std::string_view text) {
     constexpr std::size_t exactDigits = std::numeric_limits<double>::digits10;
-    if (text.empty() || text.size() > exactDigits) return std::nullopt;
+    if (text.empty() || text.size() > exactDigits) return -1;
     std::int64_t value = 0;
     for (const char c : text) {
-        if (!isASCIIDigit(static_cast<unsigned char>(c))) return std::nullopt;
+        if (!isASCIIDigit(static_cast<unsigned char>(c))) return -1;
         value = value * 10 + (c - '0');
     }
-    return static_cast<double>(value);
+    return value;
 }
 
 std::optional<double> parseUnsigned(std::string_view text) {
-    if (const auto value = parseShortDigits(text)) return value;
     if (equalsIgnoringCase(text, "inf") || equalsIgnoringCase(text, "infinity")) {
         return std::numeric_limits<double>::infinity();
     }
@@ -83,6 +82,9 @@ std::optional<double> parseUnsigned(std::string_view text) {
 std::optional<double> parseNumber(std::string_view text) {
     const bool negative = text.starts_with('-');
     if (negative || text.starts_with('+')) text.remove_prefix(1);
+    if (const std::int64_t digits = parseShortDigits(text); digits >= 0) {
+        return negative ? -static_cast<double>(digits) : static_cast<double>(digits);
+    }
     const auto value = parseUnsigned(text);
     if (value && negative) return -*value;
     return value;

@@ -34,14 +34,17 @@ std::optional<TimecodeFields> lenientFields(std::string_view text) {
     return fields;
 }
 
-std::optional<std::int64_t> timecodeFrames(std::string_view text, double fps) {
-    auto fields = readTwoDigitFields(text);
-    if (!fields) fields = lenientFields(text);
-    if (!fields) return std::nullopt;
-    const auto [hours, minutes, seconds, frames] = *fields;
+std::int64_t countFrames(const TimecodeFields& fields, double fps) {
+    const auto [hours, minutes, seconds, frames] = fields;
     const std::int64_t totalMinutes = addChecked(multiplyChecked(hours, 60), minutes);
     const std::int64_t totalSeconds = addChecked(multiplyChecked(totalMinutes, 60), seconds);
     return addChecked(multiplyChecked(totalSeconds, frameBase(fps)), frames);
+}
+
+std::optional<std::int64_t> timecodeFrames(std::string_view text, double fps) {
+    if (const auto fields = readTwoDigitFields(text)) return countFrames(*fields, fps);
+    if (const auto fields = lenientFields(text)) return countFrames(*fields, fps);
+    return std::nullopt;
 }
 
 /// Frames in "numerator/denominator" seconds. A numerator that is no number counts as zero.
@@ -87,14 +90,14 @@ std::optional<std::int64_t> CommonTimelineXMLDelegate::frames(std::string_view f
 
 std::string CommonTimelineXMLDelegate::timecode(std::int64_t fromFrames) const {
     const std::int64_t base = frameBase(fps);
+    std::string text;
     if (fitsTwoDigitFields(fromFrames, base)) {
-        std::string text(twoDigitLength, '0');
+        text.resize(twoDigitLength);
         writeTwoDigitFields(std::span<char, twoDigitLength>(text), fromFrames, base, ':');
         return text;
     }
     const std::int64_t seconds = fromFrames / base;
     const std::int64_t frames = fromFrames - seconds * base;
-    std::string text;
     appendPadded(text, seconds / 3600, 2);
     text += ':';
     appendPadded(text, seconds / 60 % 60, 2);

@@ -43,6 +43,12 @@ std::int64_t countFrames(const TimecodeFields& fields, std::int64_t base) {
     return addChecked(multiplyChecked(totalSeconds, base), frames);
 }
 
+std::int64_t convertedFrames(const TimecodeFields& fields, std::int64_t from, std::int64_t to) {
+    const std::int64_t count = countFrames(fields, from);
+    return roundToInteger(static_cast<double>(count) / static_cast<double>(from) *
+                          static_cast<double>(to));
+}
+
 void appendTimecode(std::string& text, std::int64_t count, std::int64_t base, char separator) {
     if (fitsTwoDigitFields(count, base)) {
         const std::size_t start = text.size();
@@ -80,20 +86,21 @@ TimecodeConversion::TimecodeConversion(double from, double to)
     : fromBase(frameBase(from)), toBase(frameBase(to)) {}
 
 bool TimecodeConversion::convert(std::string& timecode) const {
-    const auto fields = parseFields(timecode);
-    if (!fields) return false;
-    const std::int64_t count = countFrames(*fields, fromBase);
-    const std::int64_t converted = roundToInteger(
-        static_cast<double>(count) / static_cast<double>(fromBase) * static_cast<double>(toBase));
-    const bool dropFrame = timecode.find(dropFrameSeparator) != std::string::npos;
-    const char separator = dropFrame ? dropFrameSeparator : ':';
-    if (timecode.size() == twoDigitLength && fitsTwoDigitFields(converted, toBase)) {
-        writeTwoDigitFields(std::span<char, twoDigitLength>(timecode), converted, toBase,
-                            separator);
-        return true;
+    if (const auto read = readTwoDigitTimecode(timecode)) {
+        const std::int64_t converted = convertedFrames(read->fields, fromBase, toBase);
+        const char separator = read->isDropFrame ? dropFrameSeparator : ':';
+        if (fitsTwoDigitFields(converted, toBase)) {
+            writeTwoDigitFields(std::span<char, twoDigitLength>(timecode), converted, toBase,
+                                separator);
+            return true;
+        }
     }
+    const auto fields = lenientFields(timecode);
+    if (!fields) return false;
+    const bool isDropFrame = timecode.find(dropFrameSeparator) != std::string::npos;
     timecode.clear();
-    appendTimecode(timecode, converted, toBase, separator);
+    appendTimecode(timecode, convertedFrames(*fields, fromBase, toBase), toBase,
+                   isDropFrame ? dropFrameSeparator : ':');
     return true;
 }
 

@@ -19,35 +19,63 @@ using TimecodeFields = std::array<std::int64_t, 4>;
 /// The length of HH:MM:SS:FF.
 inline constexpr std::size_t twoDigitLength = 11;
 
-/// The fields of `text` if it has eleven characters, two ASCII digits a field and ":" or ";"
-/// between them.
-inline std::optional<TimecodeFields> readTwoDigitFields(std::string_view text) {
-    if (text.size() != twoDigitLength) return std::nullopt;
-    const char* const from = text.data();
-    TimecodeFields fields{};
-    bool matches = true;
-    for (std::size_t i = 0; i < fields.size(); ++i) {
-        const std::size_t at = i * 3;
-        const auto tens = static_cast<unsigned>(from[at] - '0');
-        const auto ones = static_cast<unsigned>(from[at + 1] - '0');
-        matches &= tens <= 9 && ones <= 9;
-        matches &= i == 0 || from[at - 1] == ':' || from[at - 1] == ';';
-        fields[i] = tens * 10 + ones;
+/// Eight characters as a number, the first in its lowest byte, so that they can be looked at at
+/// once.
+inline std::uint64_t eightCharacters(const char* from) {
+    std::uint64_t characters = 0;
+    for (unsigned i = 0; i < 8; ++i) {
+        characters |= std::uint64_t{static_cast<unsigned char>(from[i])} << 8 * i;
     }
-    if (!matches) return std::nullopt;
-    return fields;
+    return characters;
+}
+
+/// Eight characters of the form 00:00:00, read as three fields.
+class ThreeFields {
+  public:
+    explicit ThreeFields(std::uint64_t characters) : values(characters ^ 0x3030'3A30'303A'3030) {}
+
+    /// Whether they are digits with ":" or ";" between them.
+    bool match() const {
+        // Whatever is more than 9, or 1 for a separator, reaches its byte's highest bit.
+        const std::uint64_t reach = values + 0x7676'7E76'767E'7676;
+        return ((values | reach) & 0x8080'8080'8080'8080) == 0;
+    }
+    bool holdSemicolon() const { return (values & 0x0000'0100'0001'0000) != 0; }
+    std::int64_t field(unsigned index) const {
+        const std::uint64_t digits = values >> 24 * index;
+        return static_cast<std::int64_t>((digits & 0xFF) * 10 + (digits >> 8 & 0xFF));
+    }
+
+  private:
+    std::uint64_t values;  ///< digits are 0 to 9, ":" is 0 and ";" is 1
+};
+
+/// A timecode of eleven characters, two ASCII digits a field and ":" or ";" between them.
+struct TwoDigitTimecode {
+    TimecodeFields fields;
+    bool isDropFrame;  ///< holds ";"
+};
+
+/// `text`, if it has that form.
+inline std::optional<TwoDigitTimecode> readTwoDigitTimecode(std::string_view text) {
+    if (text.size() != twoDigitLength) return std::nullopt;
+    const ThreeFields first(eightCharacters(text.data()));
+    const ThreeFields last(eightCharacters(text.data() + 3));
+    if (!first.match() || !last.match()) return std::nullopt;
+    return TwoDigitTimecode{{first.field(0), first.field(1), first.field(2), last.field(2)},
+                            first.holdSemicolon() || last.holdSemicolon()};
+}
+
+/// The fields of such a timecode.
+inline std::optional<TimecodeFields> readTwoDigitFields(std::string_view text) {
+    if (const auto read = readTwoDigitTimecode(text)) return read->fields;
+    return std::nullopt;
 }
 
 /// Whether two digits a field are enough for `count` frames, counted on `base` frames a second.
 constexpr bool fitsTwoDigitFields(std::int64_t count, std::int64_t base) {
     constexpr std::int64_t hundred = 100;
     return count >= 0 && base <= hundred && count < hundred * 3600 * base;
-}
-
-/// Writes `value`, below 100, over two characters.
-constexpr void writeTwoDigits(char* text, std::uint32_t value) {
-    text[0] = static_cast<char>('0' + value / 10);
-    text[1] = static_cast<char>('0' + value % 10);
 }
 
 /// Writes the timecode of `count` frames, which must fit, over `text`, with `separator` before the
@@ -59,14 +87,21 @@ inline void writeTwoDigitFields(std::span<char, twoDigitLength> text, std::int64
     const auto divisor = static_cast<std::uint32_t>(base);
     const std::uint32_t seconds = total / divisor;
     const std::uint32_t minutes = seconds / 60;
+    // All four fields are split into digits at once, each in 16 bits. Below 100, a tenth is
+    // 103/1024.
+    const std::uint64_t fields = std::uint64_t{minutes / 60} | std::uint64_t{minutes % 60} << 16 |
+                                 std::uint64_t{seconds % 60} << 32 |
+                                 std::uint64_t{total % divisor} << 48;
+    const std::uint64_t tens = fields * 103 >> 10 & 0x000F'000F'000F'000F;
+    const std::uint64_t digits = (tens | (fields - tens * 10) << 8) + 0x3030'3030'3030'3030;
     char* const to = text.data();
-    writeTwoDigits(to, minutes / 60);
+    for (unsigned i = 0; i < 4; ++i) {
+        to[3 * i] = static_cast<char>(digits >> 16 * i & 0xFF);
+        to[3 * i + 1] = static_cast<char>(digits >> (16 * i + 8) & 0xFF);
+    }
     to[2] = ':';
-    writeTwoDigits(to + 3, minutes % 60);
     to[5] = ':';
-    writeTwoDigits(to + 6, seconds % 60);
     to[8] = separator;
-    writeTwoDigits(to + 9, total % divisor);
 }
 
 }  // namespace clipvane

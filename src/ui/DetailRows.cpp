@@ -10,35 +10,27 @@ const TimelineEvent* eventAt(const TimelineDocument& document, std::optional<std
     return row && *row < document.events.size() ? &document.events[*row] : nullptr;
 }
 
-std::vector<DetailRow> emptyRows(const TimelineDocument& document) {
-    return {{"Clip Name", "-"},  {"Reel ID", "-"},
-            {"Track", "-"},      {"Source In", "-"},
-            {"Source Out", "-"}, {"Source Dur", "-"},
-            {"Record In", "-"},  {"Record Out", "-"},
-            {"Record Dur", "-"}, {"FPS Source", document.fpsSource},
-            {"Format", "-"}};
-}
-
 }  // namespace
 
 std::vector<DetailRow> detailRows(const TimelineDocument& document,
                                   std::optional<std::size_t> row) {
+    using Field = std::string TimelineEvent::*;
     const TimelineEvent* event = eventAt(document, row);
-    if (event == nullptr) return emptyRows(document);
-    const auto duration = [&](const std::string& from, const std::string& to) {
-        return durationDisplay(from, to, document.fps);
+    const auto value = [&](Field field) { return event ? event->*field : "-"; };
+    const auto duration = [&](Field from, Field to) {
+        return event ? durationDisplay(event->*from, event->*to, document.fps) : "-";
     };
-    return {{"Clip Name", event->clipName},
-            {"Reel ID", event->reelID},
-            {"Track", event->track},
-            {"Source In", event->sourceIn},
-            {"Source Out", event->sourceOut},
-            {"Source Dur", duration(event->sourceIn, event->sourceOut)},
-            {"Record In", event->recordIn},
-            {"Record Out", event->recordOut},
-            {"Record Dur", duration(event->recordIn, event->recordOut)},
+    return {{"Clip Name", value(&TimelineEvent::clipName)},
+            {"Reel ID", value(&TimelineEvent::reelID)},
+            {"Track", value(&TimelineEvent::track)},
+            {"Source In", value(&TimelineEvent::sourceIn)},
+            {"Source Out", value(&TimelineEvent::sourceOut)},
+            {"Source Dur", duration(&TimelineEvent::sourceIn, &TimelineEvent::sourceOut)},
+            {"Record In", value(&TimelineEvent::recordIn)},
+            {"Record Out", value(&TimelineEvent::recordOut)},
+            {"Record Dur", duration(&TimelineEvent::recordIn, &TimelineEvent::recordOut)},
             {"FPS Source", document.fpsSource},
-            {"Format", event->format}};
+            {"Format", value(&TimelineEvent::format)}};
 }
 
 std::string detailTitle(const TimelineDocument& document, std::optional<std::size_t> row) {

@@ -77,42 +77,37 @@ TEST(ASCIILower, ChangesTheTwentySixCapitalsOnly) {
 struct TrimRow {
     const char* name;
     std::string_view text;
-    std::string_view withoutBlanks;
-    std::string_view withoutBlanksAndNewlines;
+    std::string_view trimmed;
 };
 
 class Trim : public testing::TestWithParam<TrimRow> {};
 
 TEST_P(Trim, Row) {
-    EXPECT_EQ(trimBlanks(GetParam().text), GetParam().withoutBlanks);
-    EXPECT_EQ(trimBlanksAndNewlines(GetParam().text), GetParam().withoutBlanksAndNewlines);
+    EXPECT_EQ(trimBlanksAndNewlines(GetParam().text), GetParam().trimmed);
 }
 
 const std::vector<TrimRow> trims{
-    {"Empty", "", "", ""},
-    {"NothingToTrim", "a b", "a b", "a b"},
-    {"BlanksOnly", " \t\u3000 ", "", ""},
-    {"NewlinesOnly", "\r\n", "\r\n", ""},
-    {"BothEnds", "\t a b \u00A0", "a b", "a b"},
-    {"NewlinesOutside", "\n a \r\n", "\n a \r\n", "a"},
-    {"NewlinesInside", " a\nb ", "a\nb", "a\nb"},
-    {"NewlineBehindBlanks", " \n a", "\n a", "a"},
-    {"UnicodeNewlines", "\u2028a\u0085", "\u2028a\u0085", "a"},
-    {"ZeroWidthSpaceStays", "\u200Ba\u200B", "\u200Ba\u200B", "\u200Ba\u200B"},
-    {"MongolianVowelSeparatorStays", "\u180Ea", "\u180Ea", "\u180Ea"},
-    {"ByteOrderMarkStays", "\uFEFF a", "\uFEFF a", "\uFEFF a"},
-    {"WordJoinerStays", "a\u2060", "a\u2060", "a\u2060"},
-    {"NULStays", std::string_view("\0 a", 3), std::string_view("\0 a", 3),
-     std::string_view("\0 a", 3)},
+    {"Empty", "", ""},
+    {"NothingToTrim", "a b", "a b"},
+    {"BlanksOnly", " \t\u3000 ", ""},
+    {"NewlinesOnly", "\r\n", ""},
+    {"BothEnds", "\t a b \u00A0", "a b"},
+    {"NewlinesOutside", "\n a \r\n", "a"},
+    {"NewlinesInside", " a\nb ", "a\nb"},
+    {"NewlineBehindBlanks", " \n a", "a"},
+    {"UnicodeNewlines", "\u2028a\u0085", "a"},
+    {"ZeroWidthSpaceStays", "\u200Ba\u200B", "\u200Ba\u200B"},
+    {"MongolianVowelSeparatorStays", "\u180Ea", "\u180Ea"},
+    {"ByteOrderMarkStays", "\uFEFF a", "\uFEFF a"},
+    {"WordJoinerStays", "a\u2060", "a\u2060"},
+    {"NULStays", std::string_view("\0 a", 3), std::string_view("\0 a", 3)},
     {"InformationSeparatorsStay",
      "\x1C"
      "a\x1F",
      "\x1C"
-     "a\x1F",
-     "\x1C"
      "a\x1F"},
-    {"InvalidBytesStay", " \x85 ", "\x85", "\x85"},
-    {"CombiningMarkStandsAlone", " \u0301a", "\u0301a", "\u0301a"},
+    {"InvalidBytesStay", " \x85 ", "\x85"},
+    {"CombiningMarkStandsAlone", " \u0301a", "\u0301a"},
 };
 INSTANTIATE_TEST_SUITE_P(Texts, Trim, testing::ValuesIn(trims), RowName());
 
@@ -121,7 +116,6 @@ TEST(Trim, EveryBlankAndNewline_GoesFromBothEnds) {
         std::string end;
         appendUTF8(end, c);
         EXPECT_EQ(trimBlanksAndNewlines(end + "x" + end), "x");
-        EXPECT_EQ(trimBlanks(end + "x" + end), blanks.contains(c) ? "x" : end + "x" + end);
     }
 }
 

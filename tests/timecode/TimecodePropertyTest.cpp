@@ -234,6 +234,25 @@ class Texts {
     std::mt19937_64 engine{29};
 };
 
+TEST(Frames, EveryByteAtEveryPlaceOfATimecode_IsReadAsTheDescriptionSays) {
+    const std::string timecodes[]{"12:34:56:07", "00:00;00;00", "99;99:99;99"};
+    for (const std::string& timecode : timecodes) {
+        for (std::size_t at = 0; at < timecode.size(); ++at) {
+            for (int byte = 0; byte < 256; ++byte) {
+                std::string text = timecode;
+                text[at] = static_cast<char>(byte);
+                ASSERT_EQ(frames(text, 25), plainFrames(text, 25)) << text;
+                const std::string converted = convertTimecode(text, 25, 50);
+                ASSERT_EQ(frames(converted, 50).has_value(), frames(text, 25).has_value()) << text;
+                if (!frames(text, 25)) continue;
+                ASSERT_EQ(frames(converted, 50), *frames(text, 25) * 2) << text;
+                ASSERT_EQ(converted.find(';') == std::string::npos,
+                          text.find(';') == std::string::npos);
+            }
+        }
+    }
+}
+
 TEST(Frames, AMillionTexts_AreReadAsTheDescriptionSays) {
     const ThrowingFatal throwing;
     Texts texts;
