@@ -10,10 +10,12 @@ from pathlib import Path
 import access
 import expected
 from desk import Desk, run_test
-from hands import click_at, press, type_text, xdotool
+from hands import active_title, click_at, press, type_text, xdotool
 from waiting import comes, wait_equal, wait_for
 
 PIER = Path(__file__).resolve().parent / "timelines" / "pier.edl"
+
+COMPOSITOR = "Weston Compositor - screen0"
 
 # The toolkit draws the frames: a border of 3, a title bar of 30, its close button on the right.
 CONTENT, FRAME = (1440, 860), (6, 33)
@@ -65,10 +67,26 @@ def main_window():
 
 def on_screen(x, y):
     """Where on the X server's screen a point of the compositor's is."""
-    facts = subprocess.run(["xwininfo", "-name", "Weston Compositor - screen0"],
-                           capture_output=True, text=True).stdout
-    left, top = re.findall(r"Absolute upper-left [XY]:\s*(-?\d+)", facts)
+
+    def corner():
+        facts = subprocess.run(["xwininfo", "-name", COMPOSITOR],
+                               capture_output=True, text=True).stdout
+        return re.findall(r"Absolute upper-left [XY]:\s*(-?\d+)", facts)
+
+    left, top = wait_for(corner, "the compositor's window")
     return int(left) + x, int(top) + y
+
+
+def enter_compositor():
+    """A click on its empty screen: the X server's window manager may not have given it the keyboard,
+    and it knows the pointer only once that has come in."""
+    xdotool("mousemove", 0, 0)
+
+    def active():
+        click_at(*on_screen(5, 5))
+        return comes(lambda: active_title() == COMPOSITOR, patience=2)
+
+    wait_for(active, "the compositor to have the keyboard")
 
 
 def drag(start, end):
@@ -84,7 +102,6 @@ def drag(start, end):
 
 def shrink():
     """Drags the bottom right corner to the top left, again if the compositor missed it."""
-    xdotool("mousemove", 0, 0)  # the compositor knows the pointer once it has come in
     for _ in range(3):
         left, top, width, height = main_window()
         drag(on_screen(left + width - 2, top + height - 2), on_screen(left + 100, top + 100))
@@ -94,6 +111,7 @@ def shrink():
 
 
 def wayland(desk):
+    enter_compositor()
     with desk.step("start: the compositor knows the window by the desktop entry's name"):
         desk.start(command=["env", "-u", "DISPLAY", desk.program])
         wait_equal(lambda: main_window()[2:], tuple(a + b for a, b in zip(CONTENT, FRAME)),
