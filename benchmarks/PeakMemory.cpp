@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
 // Prints the peak memory of importing a large EDL, as a ratio to the size of the file. A program of
 // its own: the peak is the whole process's.
 

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
 # Reads CHANGELOG.md: sections "## [1.2.3] - 2026-01-31" with lists below "### Added" and the like.
 
 # A list item as AppStream wants it: without Markdown's signs, with XML's entities.

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
 # Settings that the presets switch on; a plain configure gets none of them, so that a packager's
 # own flags decide.
 

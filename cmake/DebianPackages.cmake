@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
 # Debian's packages, through CPack: clipvane, the program, and libclipvane-core-dev, the logic for
 # other programs. scripts/package makes them.
 #

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
 # The logic as a package: find_package(Clipvane) gives another program Clipvane::core.
 include(CMakePackageConfigHelpers)
 

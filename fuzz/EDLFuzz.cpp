@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
 // The EDL reader gives the events that ICU's engine finds with the event pattern, and bytes become
 // the text that ICU makes of them.
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
 // An EDL through import and every export and back: columns end at white space and names at the
 // line's end, so that every event comes back.
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
 // The frame-rate detection gives the rate that ICU's engine finds with the four patterns, whether
 // or not invalid bytes were replaced before: no pattern asks for one.
 

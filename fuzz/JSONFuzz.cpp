@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
 // The keyed form of an event: what is read is written and read again, whole.
 
 #include "Events.h"

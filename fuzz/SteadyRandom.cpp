@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
 // Readers seed their identifiers from the system's source of randomness, which takes longer than
 // reading a short document. For the fuzzers the source is steady instead: a unit that is tried
 // again takes the same way, too.

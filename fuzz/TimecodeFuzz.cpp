@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
 // The timecode arithmetic is that of plain 128-bit integers and the C library, and has the
 // properties of counting: what was written is read again, and a higher rate loses nothing.
 

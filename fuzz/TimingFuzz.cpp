@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
 // XML's timing values are those of the description, by the C library's numbers.
 
 #include "Rates.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
 // A document in UTF-8 gives the same events when it is written in UTF-16 of either byte order.
 
 #include <unicode/unistr.h>

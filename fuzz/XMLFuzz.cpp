@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
 // The XML reader gives the events of a reader that goes step by step, at the rate that the document
 // names.
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
 // An XML timeline through import and every export and back. Names and columns may hold anything,
 // so that the EDL is written of those events alone that one can hold.
 

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
 # Debian's packages, by what needs them. Sourced by the other scripts.
 
 build_packages=(g++ cmake ninja-build pkgconf libicu-dev libexpat1-dev libexpected-dev

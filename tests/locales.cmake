@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
 # The locales whose decimal mark (German) or letter case (Turkish) upsets careless code, made into
 # the build folder: a system seldom has them installed. A test that needs them depends on the
 # target test_locales and runs with LOCPATH=${CLIPVANE_TEST_LOCALES}.

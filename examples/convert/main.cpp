@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
 // Reads a timeline and writes its CSV report and its edited EDL:
 //
 //     convert cut.fcpxml exports

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
 # What Debian's policy adds to an installed tree: compressed manual pages and changelogs, and the
 # licence under the name that Debian gives it. CPack runs this before it makes the packages.
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
 #include "base/Characters.h"
 
 #include <unicode/uchar.h>

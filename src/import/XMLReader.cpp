@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
 // Expat declares its guards against expanding entities only to those who know that it has them.
 #define XML_DTD
 #include <expat.h>

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
 #include "base/Number.h"
 #include "import/CommonTimelineXMLDelegate.h"
 #include "import/XMLText.h"

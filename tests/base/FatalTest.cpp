@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
 #include "base/Fatal.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
 """Finding controls as assistive technology does: by role and name, in the program's tree."""
 
 import pyatspi

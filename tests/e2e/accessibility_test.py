@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
 """What assistive technology is told: a role and a name for each control, header, cell and field."""
 
 from pathlib import Path

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
 """Data that nobody would type: endless names, markup, line breaks, scripts written to the left,
 file names that are no text."""
 

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
 """Comparing what the program left behind: its log, its files, the colours on the screen."""
 
 import re

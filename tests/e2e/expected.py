@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
 """What the session must show and write, figured by hand from the timelines beside it."""
 
 LONG_NAME = "A_VERY_LONG_NAME_THAT_DOES_NOT_FIT_ITS_COLUMN_BY_FAR_BUT_KEEPS_BOTH_ENDS"

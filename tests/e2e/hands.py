@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
 """Keyboard, mouse, clipboard and the list of windows: what a person at the desk has in hand."""
 
 import subprocess

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
 """The program by keyboard alone, and the keys and wheel turns that must do nothing."""
 
 from pathlib import Path

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
 """Starting: nothing on the command line counts, and no trouble with the log is in the way."""
 
 import os

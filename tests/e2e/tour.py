@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
 """A tour of the program: through a sample timeline, with a picture of each station."""
 
 import sys

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
 """Waiting for what the program will do, instead of sleeping and hoping."""
 
 import os

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
 """The program on a Wayland desktop: what the compositor knows of it, its least size, a timeline
 opened through the dialog, and its end. There is no X server for the program here; the compositor's
 own screen is on one, so that keyboard and mouse are real."""

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
 """The sizes of both windows, frames counted: at the start on this screen, and at their least."""
 
 import subprocess

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
 # Reads CHANGELOG.md's form, and refuses what is not of it.
 cmake_minimum_required(VERSION 3.25)
 include(${SOURCE_DIR}/cmake/Changelog.cmake)

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
 # Installs everything into a folder of the test's own: each file has its place, the names by which a
 # desktop finds the program agree, and the version is one.
 cmake_minimum_required(VERSION 3.25)

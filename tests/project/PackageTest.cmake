@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
 # Installs the logic into a folder of the test's own, builds examples/convert against it as another
 # program would, and converts the sample timeline with it. Without a BUILD_DIR to install from, the
 # logic is expected where the system's packages put it.

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
 // The window's commands without the window: opens a timeline and exports it to each path given, and
 // prints what the window would show.
 //

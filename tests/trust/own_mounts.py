@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
 """A name space for mounts and devices of a test's own, which ends with it."""
 
 import os

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
 // Preloaded into a program, makes chosen system calls fail, fall short, or kill the program.
 //
 //     CLIPVANE_FAULTS        what is to happen: CALL:WHICH:ACTION, several parted by commas.

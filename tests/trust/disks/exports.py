@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
 """An export to one place, in the several ways in which a file system lets it be written."""
 
 import os

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
 """The calls of an export, and the faults that can be made of them."""
 
 from errno import EACCES, EDQUOT, EINTR, EIO, ENOSPC, EROFS

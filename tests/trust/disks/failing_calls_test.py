@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
 """Every system call of an export fails in turn: the first of its kind, every later one, always.
 
     failing_calls_test.py OPEN_AND_EXPORT INJECTOR [short] [csv|edl] [pairs]

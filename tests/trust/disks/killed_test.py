@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
 """The program is killed (SIGKILL) before and after every system call of an export, and at random
 moments of exports of a large timeline.
 

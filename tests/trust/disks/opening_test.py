@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
 """A timeline that cannot be read: every system call of opening one fails in turn, the file changes
 while it is read, or is no file at all. The alert names it and the system's reason, at once.
 

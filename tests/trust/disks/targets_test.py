@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
 """Exports to places of every kind: what may be replaced is replaced whole, anything else stays as
 it is, and the alert names the file and the system's reason.
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
 // Reads good documents with every possible fault in one place: cut off after each byte, and with
 // each byte removed, doubled or changed into others. Whatever comes out is whole: its texts are
 // valid UTF-8, and the events that stand before the fault are there as if there were none.

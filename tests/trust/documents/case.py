@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
 """What a hostile document is, and what is expected of it."""
 
 from dataclasses import dataclass, field

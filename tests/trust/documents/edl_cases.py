@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
 """Hostile edit decision lists."""
 
 from case import Case, Loaded, Stopped, around, repeated, times, whole

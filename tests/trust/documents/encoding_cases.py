@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
 """False names, false encodings, and every format's content under every other's name."""
 
 from case import Case, Loaded, Refused, around, times, whole

@@ -1,4 +1,7 @@
 #!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
 """Opens hostile documents and exports what they hold, each in a process of its own.
 
     hostile_documents.py PROGRAM FOLDER [--bytes N] [--functions-only] [--case NAME]

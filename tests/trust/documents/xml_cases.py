@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
 """Hostile XML: entities, references to other files, depth, width, length."""
 
 from case import Case, Loaded, Stopped, around, numbered, repeated, times, whole

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
 // Writes its arguments to the program's log, one entry each, as the program does.
 
 #include <cstdio>

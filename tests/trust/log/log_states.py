@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
 """What can lie in the log's place, each made in a /tmp that nobody else uses.
 
 A state is a function that makes it for the given user and returns what is to hold afterwards: a

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
 """The log in every state that its place can be in, and with every failing call: never a hang, never
 a byte in somebody else's file, never an end of the program.
 

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
 """The real window with trouble in the log's place: it starts, opens a timeline, says what an export
 came to, and ends as ever.
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
 // Runs window commands again and again, each time in a process of its own and with the next
 // allocation failing, until a run needs no more: once with that allocation failing alone, once with
 // all after it, too. Whatever fails, a command does the whole of its work, or tells the user and

@@ -1,4 +1,7 @@
 #!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
 """Opens large timelines where there is really too little memory for them: the program gets ever more address space, from
 hardly enough to start with to plenty. It opens the timeline whole, or says that memory was lacking; it never crashes.
 
