@@ -15,9 +15,10 @@ if(CLIPVANE_WARNINGS)
 endif()
 
 if(CLIPVANE_HARDENED)
-    add_compile_options(-fstack-protector-strong -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2
-                        -D_GLIBCXX_ASSERTIONS)
-    add_link_options(-Wl,-z,relro,-z,now)
+    # tests/trust/hardening looks for these in what was built.
+    add_compile_options(-fstack-protector-strong -fstack-clash-protection -U_FORTIFY_SOURCE
+                        -D_FORTIFY_SOURCE=3 -D_GLIBCXX_ASSERTIONS)
+    add_link_options(-Wl,-z,relro,-z,now,-z,noexecstack)
 endif()
 
 if(CLIPVANE_SANITIZERS)

@@ -197,8 +197,9 @@ Result<void> AtomicFile::write(std::string_view bytes) {
 }
 
 Result<void> AtomicFile::commit() {
+    const std::filesystem::path above = folder();  // asked for while it may still fail
     if (auto placed = takePlace(); !placed) return placed;
-    syncFolder(folder());  // whether that fails or not: the content is in its place
+    syncFolder(above);  // whether that fails or not: the content is in its place
     return {};
 }
 

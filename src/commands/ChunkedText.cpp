@@ -1,5 +1,7 @@
 #include "commands/ChunkedText.h"
 
+#include <cerrno>
+#include <new>
 #include <utility>
 
 #include "base/AtomicFile.h"
@@ -15,12 +17,14 @@ std::string wholeText(const ChunkedText& text) {
     return whole;
 }
 
-Result<void> writeText(const ChunkedText& text, const std::filesystem::path& url) {
+Result<void> writeText(const ChunkedText& text, const std::filesystem::path& url) try {
     auto file = AtomicFile::create(url);
     if (!file) return tl::unexpected(std::move(file.error()));
     auto written = text([&](std::string_view chunk) { return file->write(chunk); });
     if (!written) return written;
     return file->commit();
+} catch (const std::bad_alloc&) {
+    return tl::unexpected(fileError("written", url, ENOMEM));
 }
 
 }  // namespace clipvane

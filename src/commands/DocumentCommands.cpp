@@ -1,6 +1,8 @@
 #include "commands/DocumentCommands.h"
 
 #include <algorithm>
+#include <new>
+#include <stdexcept>
 #include <string_view>
 #include <utility>
 
@@ -27,56 +29,87 @@ std::optional<double> rateInTitle(std::string title) {
 
 }  // namespace
 
-void DocumentCommands::openTimeline() {
-    writeLog(openClickedLine);
-    const auto url = runOpenPanel();
-    if (!url) return;
-
-    Result<TimelineParseResult> parsed;
-    whileBusy([&] { parsed = TimelineParser::parse(*url); });
-    if (!parsed) {
-        writeLog(openFailedLine(parsed.error()));
-        runAlert(openFailedAlert(parsed.error()));
-        return;
+template <class Command>
+void DocumentCommands::withMemory(const Alert& otherwise, Command command) {
+    bool isOut = false;
+    try {
+        command();
+    } catch (const std::bad_alloc&) {
+        isOut = true;
+    } catch (const std::length_error&) {
+        isOut = true;
     }
-    writeLog(parsedLine(*parsed, *url));
+    if (!isOut) return;
+    try {
+        runAlert(otherwise);
+    } catch (const std::bad_alloc&) {
+        // Not even the alert fits. The document is whole, which matters more than to say so.
+    }
+}
 
-    documentModel.sourceURL = *url;
-    documentModel.events = std::move(parsed->events);
-    documentModel.removedEvents.clear();
-    documentModel.fps = parsed->fps;
-    documentModel.fpsSource = std::move(parsed->fpsSource);
+void DocumentCommands::openTimeline() {
+    withMemory(noMemory.toOpen, [&] {
+        writeLog(openClickedLine);
+        const auto url = runOpenPanel();
+        if (!url) return;
 
-    syncFPSPopup();
-    reloadTable();
-    showEvents(0);
-    setStatus(loadedStatus(documentModel, *url));
-    runAlert(checkFrameRateAlert());
+        Result<TimelineParseResult> parsed;
+        whileBusy([&] { parsed = TimelineParser::parse(*url); });
+        if (!parsed) {
+            writeLog(openFailedLine(parsed.error()));
+            runAlert(openFailedAlert(parsed.error()));
+            return;
+        }
+        writeLog(parsedLine(*parsed, *url));
+
+        auto sourceURL = url;
+        documentModel.sourceURL = std::move(sourceURL);
+        documentModel.events = std::move(parsed->events);
+        documentModel.removedEvents.clear();
+        documentModel.fps = parsed->fps;
+        documentModel.fpsSource = std::move(parsed->fpsSource);
+
+        withMemory(noMemory.toShow, [&] {
+            syncFPSPopup();
+            reloadTable();
+            showEvents(0);
+            setStatus(loadedStatus(documentModel, *url));
+            runAlert(checkFrameRateAlert());
+        });
+    });
 }
 
 void DocumentCommands::fpsChanged() {
-    const auto title = selectedFPSTitle();
-    if (!title) return;
-    const auto fps = rateInTitle(*title);
-    if (!fps) return;
+    withMemory(noMemory.toChange, [&] {
+        const auto title = selectedFPSTitle();
+        if (!title) return;
+        const auto fps = rateInTitle(*title);
+        if (!fps) return;
 
-    saveCurrentComment();
-    double earlier = 0;
-    std::size_t converted = 0;
-    whileBusy([&] {
-        earlier = documentModel.fps;
-        converted = convertTimecodes(documentModel.events, earlier, *fps);
+        storeComment();
+        double earlier = 0;
+        std::size_t converted = 0;
+        whileBusy([&] {
+            earlier = documentModel.fps;
+            converted = convertTimecodes(documentModel.events, earlier, *fps);
+        });
+        documentModel.fps = *fps;
+        documentModel.fpsSource = fpsSourceManual;
+
+        withMemory(noMemory.toShow, [&] {
+            reloadTable();
+            setStatus(convertedStatus(converted, earlier, *fps));
+            syncFPSPopup();
+            refreshDetails();
+        });
     });
-    documentModel.fps = *fps;
-    documentModel.fpsSource = fpsSourceManual;
-
-    reloadTable();
-    setStatus(convertedStatus(converted, earlier, *fps));
-    syncFPSPopup();
-    refreshDetails();
 }
 
 void DocumentCommands::saveCurrentComment() {
+    withMemory(noMemory.toChange, [&] { storeComment(); });
+}
+
+void DocumentCommands::storeComment() {
     const auto row = selectedRow();
     if (!row || *row >= documentModel.events.size()) return;
     auto comments = editedComments();
@@ -99,16 +132,20 @@ void DocumentCommands::textDidChange() {
 }
 
 void DocumentCommands::removeSelectedEvent() {
-    saveCurrentComment();
-    const auto row = selectedRow();
-    if (!row) return;
-    auto& events = documentModel.events;
-    documentModel.removedEvents.push_back(std::move(selectedEvent(*row)));
-    events.erase(events.begin() + static_cast<std::ptrdiff_t>(*row));
+    withMemory(noMemory.toChange, [&] {
+        storeComment();
+        const auto row = selectedRow();
+        if (!row) return;
+        auto& events = documentModel.events;
+        documentModel.removedEvents.push_back(std::move(selectedEvent(*row)));
+        events.erase(events.begin() + static_cast<std::ptrdiff_t>(*row));
 
-    reloadTable();
-    showEvents(*row);
-    setStatus(removedStatus(events.size()));
+        withMemory(noMemory.toShow, [&] {
+            reloadTable();
+            showEvents(*row);
+            setStatus(removedStatus(events.size()));
+        });
+    });
 }
 
 /// Shows the list as it has become: `row` selected, or the last one if there is no such row, or the
@@ -125,12 +162,14 @@ void DocumentCommands::showEvents(std::size_t row) {
 }
 
 void DocumentCommands::copySelectedInfo() {
-    saveCurrentComment();
-    const auto row = selectedRow();
-    if (!row) return;
-    setPasteboardText(
-        copyInfoText(selectedEvent(*row), documentModel.fps, documentModel.fpsSource));
-    setStatus(copiedStatus);
+    withMemory(noMemory.toChange, [&] {
+        storeComment();
+        const auto row = selectedRow();
+        if (!row) return;
+        setPasteboardText(
+            copyInfoText(selectedEvent(*row), documentModel.fps, documentModel.fpsSource));
+        withMemory(noMemory.toShow, [&] { setStatus(copiedStatus); });
+    });
 }
 
 TimelineEvent& DocumentCommands::selectedEvent(std::size_t row) {
@@ -139,15 +178,19 @@ TimelineEvent& DocumentCommands::selectedEvent(std::size_t row) {
 }
 
 void DocumentCommands::exportCSV() {
-    saveCurrentComment();
-    saveFile("timeline-events.csv",
-             [this](const auto& url) { return writeCSV(documentModel, url); });
+    withMemory(noMemory.toExport, [&] {
+        storeComment();
+        saveFile("timeline-events.csv",
+                 [this](const auto& url) { return writeCSV(documentModel, url); });
+    });
 }
 
 void DocumentCommands::exportEDL() {
-    saveCurrentComment();
-    saveFile("edited-timeline.edl",
-             [this](const auto& url) { return writeEDL(documentModel, url); });
+    withMemory(noMemory.toExport, [&] {
+        storeComment();
+        saveFile("edited-timeline.edl",
+                 [this](const auto& url) { return writeEDL(documentModel, url); });
+    });
 }
 
 void DocumentCommands::saveFile(const std::string& defaultName, const Writer& writer) {
@@ -156,7 +199,7 @@ void DocumentCommands::saveFile(const std::string& defaultName, const Writer& wr
     Result<void> written;
     whileBusy([&] { written = writer(*url); });
     if (written) {
-        setStatus(exportedStatus(*url));
+        withMemory(noMemory.toShow, [&] { setStatus(exportedStatus(*url)); });
     } else {
         runAlert(exportFailedAlert(written.error()));
     }

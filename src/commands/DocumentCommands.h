@@ -11,6 +11,7 @@
 #include "base/UUID.h"
 #include "commands/Alert.h"
 #include "commands/LineEnds.h"
+#include "commands/NoMemoryAlerts.h"
 #include "model/TimelineDocument.h"
 
 namespace clipvane {
@@ -19,6 +20,10 @@ namespace clipvane {
 /// few toolkit operations that the steps need.
 ///
 /// Rows are indexes into the document's events. Texts are UTF-8.
+///
+/// A command that runs out of memory tells the user and leaves the document, and the file that it
+/// was to replace, as they were; or the whole change is made, and the alert says that the window
+/// may not show it.
 class DocumentCommands {
   public:
     DocumentCommands() = default;
@@ -26,6 +31,7 @@ class DocumentCommands {
     DocumentCommands& operator=(const DocumentCommands&) = delete;
     virtual ~DocumentCommands() = default;
 
+    // What the buttons and the pop-up call. What fails is told in an alert, success in the status.
     void openTimeline();
     void fpsChanged();
     void removeSelectedEvent();
@@ -49,6 +55,11 @@ class DocumentCommands {
   private:
     using Writer = std::function<Result<void>(const std::filesystem::path& url)>;
 
+    /// Runs `command`, or shows the alert `otherwise` when there is not memory enough for it.
+    template <class Command>
+    void withMemory(const Alert& otherwise, Command command);
+
+    void storeComment();
     void saveFile(const std::string& defaultName, const Writer& writer);
     void showEvents(std::size_t row);
     TimelineEvent& selectedEvent(std::size_t row);
@@ -58,6 +69,8 @@ class DocumentCommands {
     /// removing its last line end and undoing that must not change it.
     LineEnd lineEnd = LineEnd::lineFeed;
     std::optional<UUID> typedIn;
+
+    const NoMemoryAlerts noMemory{};
 
     // The toolkit's part.
 

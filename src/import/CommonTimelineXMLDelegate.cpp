@@ -80,10 +80,11 @@ void CommonTimelineXMLDelegate::startEvent(std::string_view name, const XMLAttri
 }
 
 void CommonTimelineXMLDelegate::startClip(std::string_view name, const XMLAttributes& attributes) {
-    const std::string reference(attributes.firstOf({"ref", "asset", "id"}).value_or(""));
+    const std::string_view reference = attributes.firstOf({"ref", "asset", "id"}).value_or("");
     const auto displayName = [&]() -> std::string_view {
         if (const auto value = attributes.find("name")) return *value;
         if (const auto found = assetNames.find(reference); found != assetNames.end()) {
+            effort += found->second.size();
             return found->second;
         }
         return attributes.find("lane").value_or(name);
@@ -113,7 +114,8 @@ void CommonTimelineXMLDelegate::setRange(const XMLAttributes& attributes, std::s
     if (const auto value = attributes.find("out")) out = timing(*value);
 }
 
-void CommonTimelineXMLDelegate::setField(XMLElement element, TimelineEvent& event) const {
+void CommonTimelineXMLDelegate::setField(XMLElement element, TimelineEvent& event) {
+    effort += currentText.size();
     const CleanedXMLText cleaned(currentText);
     const std::string_view text = cleaned.view();
     if (text.empty()) return;

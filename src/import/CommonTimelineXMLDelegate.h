@@ -2,10 +2,11 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include "base/UUID.h"
@@ -43,17 +44,23 @@ class CommonTimelineXMLDelegate {
 
     std::vector<TimelineEvent> events;
 
+    /// What all this has cost so far, in bytes of text handled again beyond those that the parser
+    /// handed over. A hostile document can make it grow with the square of its size.
+    std::size_t effort = 0;
+
   private:
     void startAsset(const XMLAttributes& attributes);
     void startEvent(std::string_view name, const XMLAttributes& attributes);
     void startClip(std::string_view name, const XMLAttributes& attributes);
     void setRange(const XMLAttributes& attributes, std::string& in, std::string& out) const;
-    void setField(XMLElement element, TimelineEvent& event) const;
+    void setField(XMLElement element, TimelineEvent& event);
     TimelineEvent& appendEvent(std::string_view name);
     std::string end(std::string_view start, std::string_view duration) const;
 
     double fps;
-    std::unordered_map<std::string, std::string> assetNames;  ///< display names by asset id
+    /// Display names by asset id. A tree: the ids that fall together in a hash table can be
+    /// guessed.
+    std::map<std::string, std::string, std::less<>> assetNames;
     std::string
         currentText;  ///< character data since the last element start, if an event is pending
     std::optional<std::size_t> pendingClipIndex;  ///< the event that elements write into

@@ -7,6 +7,7 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <new>
 
 #include "base/UTF8.h"
 
@@ -18,6 +19,7 @@ using namespace std::string_view_literals;
 using ConverterPointer = std::unique_ptr<UConverter, decltype(&ucnv_close)>;
 
 constexpr std::string_view declarationStart = "<?xml";
+constexpr std::string_view markup = "<?xml =\"'/>&;#![]-:_09";
 constexpr const char* utf8 = "UTF-8";
 constexpr const char* utf16 = "UTF-16";  // the parser finds out which of the two byte orders
 
@@ -42,22 +44,38 @@ std::string declaredEncoding(std::string_view data) {
     return std::string(rest.substr(0, rest.find(quote)));
 }
 
-ConverterPointer openConverter(const char* name) {
-    UErrorCode error = U_ZERO_ERROR;
-    return {ucnv_open(name, &error), ucnv_close};
+/// Lack of memory must not pass for an unknown encoding.
+void throwIfOutOfMemory(UErrorCode error) {
+    if (error == U_MEMORY_ALLOCATION_ERROR) throw std::bad_alloc();
 }
 
-/// Whether the converter takes the ASCII that the document begins with for what it is, which the
-/// wider encodings and EBCDIC do not.
-bool readsASCII(UConverter& converter) {
-    std::array<UChar, declarationStart.size() * 2> text;
+bool knowsEncoding(const char* name) {
     UErrorCode error = U_ZERO_ERROR;
-    const auto length = ucnv_toUChars(
-        &converter, text.data(), static_cast<std::int32_t>(text.size()), declarationStart.data(),
-        static_cast<std::int32_t>(declarationStart.size()), &error);
+    return ucnv_countAliases(name, &error) > 0;
+}
+
+/// Nothing when ICU knows no such name.
+ConverterPointer openConverter(const char* name) {
+    UErrorCode error = U_ZERO_ERROR;
+    ConverterPointer converter(ucnv_open(name, &error), ucnv_close);
+    throwIfOutOfMemory(error);
+    // Without memory for its table of names ICU knows none, and says no more than that.
+    if (!converter && !knowsEncoding("windows-1252")) throw std::bad_alloc();
+    return converter;
+}
+
+/// Whether the converter takes the ASCII that markup is made of for what it is, which the wider
+/// encodings and EBCDIC do not, nor those with other quotes in its place.
+bool readsASCII(UConverter& converter) {
+    std::array<UChar, markup.size() * 2> text;
+    UErrorCode error = U_ZERO_ERROR;
+    const auto length =
+        ucnv_toUChars(&converter, text.data(), static_cast<std::int32_t>(text.size()),
+                      markup.data(), static_cast<std::int32_t>(markup.size()), &error);
+    throwIfOutOfMemory(error);
     return U_SUCCESS(error) &&
-           std::equal(text.data(), text.data() + length, declarationStart.begin(),
-                      declarationStart.end(), [](UChar a, char b) { return a == UChar(b); });
+           std::equal(text.data(), text.data() + length, markup.begin(), markup.end(),
+                      [](UChar a, char b) { return a == UChar(b); });
 }
 
 /// Whether documents labelled with the converter's name had better be read as UTF-8: the label is
@@ -106,6 +124,7 @@ std::string transcode(UConverter& from, std::string_view data) {
                        pivot.data() + pivot.size(), starting, true, &error);
         text.append(piece.data(), target);
         starting = false;
+        throwIfOutOfMemory(error);
         if (error != U_BUFFER_OVERFLOW_ERROR) return text;
     }
 }

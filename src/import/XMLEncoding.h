@@ -18,7 +18,7 @@ struct XMLBytes {
 /// Decides in which encoding to read the document, so that a false or unknown encoding name in its
 /// declaration costs nothing: a byte-order mark or the first bytes tell UTF-16 from the others, and
 /// a mark tells UTF-8; otherwise a declared name that ICU knows counts, and UTF-8 where there is
-/// none.
+/// none. Throws when memory runs out.
 XMLBytes readableXML(std::string_view data);
 
 }  // namespace clipvane

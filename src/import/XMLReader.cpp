@@ -1,3 +1,5 @@
+// Expat declares its guards against expanding entities only to those who know that it has them.
+#define XML_DTD
 #include <expat.h>
 
 #include <algorithm>
@@ -20,6 +22,29 @@ namespace {
 constexpr std::size_t smallestPiece = std::size_t{1} << 18;
 constexpr std::size_t largestPiece = std::size_t{1} << 28;
 
+// What no timeline needs, but a hostile document could ask for, ends the reading as malformed XML
+// does: the events so far stay.
+
+/// The parser keeps some 140 bytes for each level, which can be written in three.
+constexpr std::size_t mostLevels = 1'000'000;
+
+/// The parser calls itself for an entity within an entity, and its stack is not endless.
+constexpr int mostEntitiesWithReferences = 256;
+
+/// The parser compares each default that an element declares for an attribute with all before it.
+constexpr int mostDefaultAttributes = 10'000;
+
+/// How many times its own size a document may grow by its entities, beyond the parser's eight
+/// megabytes for every document.
+constexpr float largestAmplification = 4;
+
+/// What reading may cost, in bytes of text handled. A text usually costs its size once; but each of
+/// many end tags may ask for all of a long text again, and each of many clips for a long name.
+constexpr std::size_t mostEffort(std::size_t size) {
+    return 8 * size + (std::size_t{64} << 20);
+}
+constexpr std::size_t effortPerDefaultAttribute = 16;
+
 /// One run of the parser over a document, calling back the delegate.
 class ParserRun {
   public:
@@ -29,11 +54,16 @@ class ParserRun {
         XML_SetUserData(parser.get(), this);
         XML_SetElementHandler(parser.get(), startElement, endElement);
         XML_SetCharacterDataHandler(parser.get(), characters);
+        XML_SetEntityDeclHandler(parser.get(), entityDeclaration);
+        XML_SetAttlistDeclHandler(parser.get(), attributeDeclaration);
+        XML_SetBillionLaughsAttackProtectionMaximumAmplification(parser.get(),
+                                                                 largestAmplification);
     }
 
     /// Parses to the document's end or to its first error.
     void parse(std::string_view data) {
         const std::size_t total = data.size();
+        effortAllowed = mostEffort(total);
         XML_Status status = XML_STATUS_OK;
         bool isFinal = false;
         std::size_t pieceSize = smallestPiece;
@@ -56,17 +86,31 @@ class ParserRun {
     template <class Callback>
     static void guarded(void* userData, Callback callback) noexcept {
         auto& run = *static_cast<ParserRun*>(userData);
-        if (run.failure) return;
+        if (run.hasStopped) return;
         run.hasProgressed = true;
         try {
             callback(run.delegate);
         } catch (...) {
             run.failure = std::current_exception();
-            XML_StopParser(run.parser.get(), XML_FALSE);
+            run.stop();
         }
+        if (run.delegate.effort > run.effortAllowed) run.stop();
+    }
+
+    /// The parser may still call back once for what it has already read.
+    void stop() {
+        if (!hasStopped) XML_StopParser(parser.get(), XML_FALSE);
+        hasStopped = true;
     }
 
     static void startElement(void* userData, const XML_Char* name, const XML_Char** attributes) {
+        auto& run = *static_cast<ParserRun*>(userData);
+        if (++run.level > mostLevels) run.stop();
+        // Those that the element's declaration adds cost the document nothing.
+        const int specified = XML_GetSpecifiedAttributeCount(run.parser.get());
+        for (auto added = attributes + specified; *added != nullptr; added += 2) {
+            run.delegate.effort += effortPerDefaultAttribute;
+        }
         guarded(userData, [&](CommonTimelineXMLDelegate& reader) {
             reader.didStartElement(name, XMLAttributes(attributes));
         });
@@ -79,13 +123,37 @@ class ParserRun {
     }
 
     static void endElement(void* userData, const XML_Char* name) {
+        --static_cast<ParserRun*>(userData)->level;
         guarded(userData, [&](CommonTimelineXMLDelegate& reader) { reader.didEndElement(name); });
+    }
+
+    static void entityDeclaration(void* userData, const XML_Char* /*name*/, int /*isParameter*/,
+                                  const XML_Char* value, int length, const XML_Char* /*base*/,
+                                  const XML_Char* /*system*/, const XML_Char* /*publicName*/,
+                                  const XML_Char* /*notation*/) {
+        auto& run = *static_cast<ParserRun*>(userData);
+        if (value == nullptr) return;
+        const std::string_view text(value, static_cast<std::size_t>(length));
+        if (text.find('&') == std::string_view::npos) return;
+        if (++run.entitiesWithReferences > mostEntitiesWithReferences) run.stop();
+    }
+
+    static void attributeDeclaration(void* userData, const XML_Char* /*element*/,
+                                     const XML_Char* /*name*/, const XML_Char* /*type*/,
+                                     const XML_Char* value, int /*isRequired*/) {
+        auto& run = *static_cast<ParserRun*>(userData);
+        if (value != nullptr && ++run.defaultAttributes > mostDefaultAttributes) run.stop();
     }
 
     CommonTimelineXMLDelegate& delegate;
     std::unique_ptr<XML_ParserStruct, decltype(&XML_ParserFree)> parser;
     std::exception_ptr failure;
+    bool hasStopped = false;
     bool hasProgressed = false;  ///< called back during the current piece
+    std::size_t level = 0;
+    std::size_t effortAllowed = 0;
+    int entitiesWithReferences = 0;
+    int defaultAttributes = 0;
 };
 
 }  // namespace

@@ -11,6 +11,9 @@ namespace {
 
 constexpr char dropFrameSeparator = ';';
 
+/// Four counts of 64 bits, each with a sign, and what stands between them.
+constexpr std::size_t longestTimecode = 4 * 20 + 3;
+
 constexpr bool isSeparator(char c) {
     return c == ':' || c == dropFrameSeparator;
 }
@@ -84,6 +87,14 @@ std::string timecode(std::int64_t fromFrames, double fps, bool usesDropFrameSepa
 
 TimecodeConversion::TimecodeConversion(double from, double to)
     : fromBase(frameBase(from)), toBase(frameBase(to)) {}
+
+void TimecodeConversion::makeRoom(std::string& timecode) const {
+    // Two digits a field take any usual rate's frames, and the hours grow by one at most.
+    const bool isUsual = toBase <= 100 && readTwoDigitFields(timecode);
+    const std::size_t longest = isUsual ? twoDigitLength + 1 : longestTimecode;
+    if (timecode.capacity() >= longest || !parseFields(timecode)) return;
+    timecode.reserve(longest);
+}
 
 bool TimecodeConversion::convert(std::string& timecode) const {
     if (const auto read = readTwoDigitTimecode(timecode)) {

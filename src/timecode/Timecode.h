@@ -30,6 +30,9 @@ class TimecodeConversion {
   public:
     TimecodeConversion(double from, double to);
 
+    /// Gives `timecode` the room that `convert` needs, which then cannot fail.
+    void makeRoom(std::string& timecode) const;
+
     /// Converts `timecode` in place and tells whether it was one.
     bool convert(std::string& timecode) const;
 

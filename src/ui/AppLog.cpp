@@ -12,9 +12,7 @@ const std::filesystem::path& AppLog::url() {
 }
 
 void AppLog::write(std::string_view message) {
-    if (const auto line = logLine(std::chrono::system_clock::now(), message)) {
-        appendLogLine(url(), *line);
-    }
+    writeLogLine(url(), std::chrono::system_clock::now(), message);
 }
 
 }  // namespace clipvane

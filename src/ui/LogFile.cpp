@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <new>
 #include <system_error>
 
 #include "base/Descriptor.h"
@@ -93,6 +94,12 @@ void appendLogLine(const std::filesystem::path& path, std::string_view line) {
         if (put <= 0) return;
         line.remove_prefix(static_cast<std::size_t>(put));
     }
+}
+
+void writeLogLine(const std::filesystem::path& path, std::chrono::system_clock::time_point time,
+                  std::string_view message) try {
+    if (const auto line = logLine(time, message)) appendLogLine(path, *line);
+} catch (const std::bad_alloc&) {
 }
 
 }  // namespace clipvane

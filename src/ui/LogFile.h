@@ -20,4 +20,9 @@ std::optional<std::string> logLine(std::chrono::system_clock::time_point time,
 /// written or waited for. Two processes may write at once.
 void appendLogLine(const std::filesystem::path& path, std::string_view line);
 
+/// Appends the line of `message` at `time` to the log at `path`. Every failure is silent, lack of
+/// memory included: a log is no reason to stop what it tells about.
+void writeLogLine(const std::filesystem::path& path, std::chrono::system_clock::time_point time,
+                  std::string_view message);
+
 }  // namespace clipvane

@@ -1,8 +1,10 @@
 """Waiting for what the program will do, instead of sleeping and hoping."""
 
+import os
 import time
 
-PATIENCE = 20  # seconds; a busy machine takes long
+#: seconds; a busy machine takes long, and valgrind longer
+PATIENCE = float(os.environ.get("CLIPVANE_TEST_PATIENCE", 20))
 
 
 def wait_for(condition, what, patience=PATIENCE):

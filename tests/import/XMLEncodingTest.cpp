@@ -1,11 +1,13 @@
 #include "import/XMLEncoding.h"
 
 #include <gtest/gtest.h>
+#include <unicode/ucnv.h>
 
 #include <string>
 
-#include "import/Judge.h"
+#include "base/UTF8.h"
 #include "import/TimelineParser.h"
+#include "judges/Pattern.h"
 #include "support/RowName.h"
 
 namespace clipvane::test {
@@ -148,6 +150,27 @@ TEST(XMLEncodings, UTF16CutWithinACharacter_GivesTheEventsBefore) {
     std::string data = markLE + encodedAs("UTF-16LE", "<a><clip/><clip/>");
     data += '<';
     EXPECT_EQ(TimelineParser::parseXML(data, 25).size(), 2U);
+}
+
+/// A false name costs nothing, whatever it means; and bytes that mean nothing in an encoding do not
+/// break the texts.
+TEST(XMLEncodings, EveryNameThatICUKnows_LosesNoEvent) {
+    std::string everyByte;
+    for (int byte = 0x80; byte < 0x100; ++byte) everyByte += static_cast<char>(byte);
+    const std::int32_t count = ucnv_countAvailable();
+    ASSERT_GT(count, 100);
+    for (std::int32_t i = 0; i < count; ++i) {
+        const std::string name = ucnv_getAvailableName(i);
+        if (name.find(',') != std::string::npos) continue;  // no document can hold it
+        const std::string text = "<?xml version='1.0' encoding='" + name + "'?><a><clip name='x'/>";
+        const auto events = TimelineParser::parseXML(text + "<clip/></a>", 25);
+        ASSERT_EQ(events.size(), 2U) << name;
+        EXPECT_EQ(events[0].clipName, "x") << name;
+        for (const auto& event : TimelineParser::parseXML(
+                 text + everyByte + "<clip name='" + everyByte + "'/></a>", 25)) {
+            EXPECT_EQ(validUTF8Prefix(event.clipName), event.clipName.size()) << name;
+        }
+    }
 }
 
 TEST(XMLEncodings, DataThatIsNoXML_YieldsNothing) {

@@ -146,6 +146,19 @@ TEST_P(ConvertTimecode, Row) {
     EXPECT_EQ(inPlace, row.expected);
 }
 
+/// What is converted without asking for memory cannot stop halfway through a list for want of it.
+TEST_P(ConvertTimecode, InTheRoomMade_StaysInItsPlace) {
+    const auto& row = GetParam();
+    std::string text(row.text);
+    const TimecodeConversion conversion(row.from, row.to);
+    conversion.makeRoom(text);
+    EXPECT_EQ(text, row.text);
+    const char* const place = text.data();
+    conversion.convert(text);
+    EXPECT_EQ(text, row.expected);
+    EXPECT_EQ(text.data(), place);
+}
+
 const std::vector<ConversionRow> conversions{
     {"WholeHour", "01:00:00:00", 25, 24, "01:00:00:00"},
     {"RoundsDown", "00:00:00:29", 30, 25, "00:00:00:24"},
@@ -167,6 +180,9 @@ const std::vector<ConversionRow> conversions{
     {"ToARateOfZero", "00:01:30:13", 25, 0, "00:01:31:00"},
     {"FromARateOfZero", "00:01:30:00", 0, 25, "00:01:30:00"},
     {"LowerEndSurvives", "00:00:00:-9223372036854775808", 25, 25, "-102481911520608:-37:-12:-8"},
+    {"LongerThanBefore", "-9999:1:1:1", 25, 24, "-9998:-58:-58:-23"},
+    {"ToManyDigitsOfFrames", "00:00:01:01", 2, 1e12, "00:00:01:500000000000"},
+    {"HoursGrowByOneDigit", "99:59:59:59", 60, 24, "100:00:00:00"},
     {"Empty", "", 25, 24, ""},
     {"ThreeFields", "01:00:00", 25, 24, "01:00:00"},
     {"Word", "LEADER", 25, 24, "LEADER"},

@@ -1,0 +1,110 @@
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "import/TimelineParser.h"
+
+namespace clipvane::test {
+namespace {
+
+std::string repeated(std::string_view text, std::size_t times) {
+    std::string all;
+    all.reserve(text.size() * times);
+    for (std::size_t i = 0; i < times; ++i) all += text;
+    return all;
+}
+
+std::size_t eventCount(const std::string& xml) {
+    return TimelineParser::parseXML(xml, 25).size();
+}
+
+/// Entities that each hold the next.
+std::string chain(int length) {
+    std::string xml = "<!DOCTYPE a [";
+    for (int i = 0; i < length; ++i) {
+        xml += "<!ENTITY e" + std::to_string(i) + " '&e" + std::to_string(i + 1) + ";'>";
+    }
+    return xml + "<!ENTITY e" + std::to_string(length) + " 'x'>]><a><clip/>&e0;<clip/></a>";
+}
+
+TEST(CostlyXML, ChainOfEntities_IsFollowed) {
+    EXPECT_EQ(eventCount(chain(256)), 2U);
+}
+
+/// Followed, it would use up the stack.
+TEST(CostlyXML, EndlessChainOfEntities_IsMalformed) {
+    EXPECT_EQ(eventCount(chain(257)), 0U);
+    EXPECT_EQ(eventCount(chain(200'000)), 0U);
+}
+
+TEST(CostlyXML, EntitiesWithoutReferences_AreNotLimited) {
+    std::string xml = "<!DOCTYPE a [";
+    for (int i = 0; i < 10'000; ++i) xml += "<!ENTITY e" + std::to_string(i) + " 'x'>";
+    EXPECT_EQ(eventCount(xml + "]><a>&e9999;<clip/></a>"), 1U);
+}
+
+TEST(CostlyXML, DeepDocument_IsRead) {
+    const std::string xml =
+        "<a>" + repeated("<b>", 100'000) + "<clip/>" + repeated("</b>", 100'000) + "<clip/></a>";
+    EXPECT_EQ(eventCount(xml), 2U);
+}
+
+TEST(CostlyXML, EndlesslyDeepDocument_EndsWithTheMillionthLevel) {
+    const std::string inner = repeated("<b>", 999'998) + "<clip/>" + repeated("</b>", 999'998);
+    EXPECT_EQ(eventCount("<a>" + inner + "<clip/></a>"), 2U);
+    EXPECT_EQ(eventCount("<a><clip/><b><b>" + inner + "</b></b><clip/></a>"), 1U);
+}
+
+/// Elements that get `count` attributes each from their declaration.
+std::string withDefaults(int count, std::size_t elements) {
+    std::string xml = "<!DOCTYPE a [<!ATTLIST b";
+    for (int i = 0; i < count; ++i) xml += " a" + std::to_string(i) + " CDATA '1'";
+    return xml + ">]><a><clip/>" + repeated("<b/>", elements) + "<clip/></a>";
+}
+
+TEST(CostlyXML, DefaultAttributesForManyElements_AreMalformed) {
+    EXPECT_EQ(eventCount(withDefaults(10'000, 10)), 2U);
+    EXPECT_EQ(eventCount(withDefaults(10'000, 100'000)), 1U);
+}
+
+TEST(CostlyXML, DefaultAttributesWithoutEnd_AreMalformed) {
+    EXPECT_EQ(eventCount(withDefaults(10'001, 1)), 0U);
+    EXPECT_EQ(eventCount(withDefaults(400'000, 1)), 0U);
+}
+
+/// A megabyte that each of a hundred thousand end tags asks for.
+TEST(CostlyXML, TextThatManyElementsEndWith_IsMalformed) {
+    for (const std::string_view name : {"name", "comment", "in", "reel"}) {
+        const auto ended = [&](std::size_t times) {
+            const std::string open = "<" + std::string(name) + ">";
+            const std::string close = "</" + std::string(name) + ">";
+            return "<a><gap/><clip>" + repeated(open, times) + std::string(1'000'000, 't') +
+                   repeated(close, times) + "</clip><gap/></a>";
+        };
+        EXPECT_EQ(eventCount(ended(10)), 3U) << name;
+        EXPECT_EQ(eventCount(ended(100'000)), 2U) << name;
+    }
+}
+
+/// A megabyte for each of a hundred thousand events.
+TEST(CostlyXML, AssetsNameWithoutEndForEveryClip_IsMalformed) {
+    const std::string asset = "<a><asset id='r' name='" + std::string(1'000'000, 'n') + "'/>";
+    EXPECT_EQ(eventCount(asset + repeated("<clip ref='r'/>", 10) + "</a>"), 10U);
+    const auto events =
+        TimelineParser::parseXML(asset + repeated("<clip ref='r'/>", 100'000) + "</a>", 25);
+    EXPECT_LT(events.size(), 200U);
+    for (const TimelineEvent& event : events) ASSERT_EQ(event.clipName.size(), 1'000'000U);
+}
+
+/// Four times the document, and eight megabytes.
+TEST(CostlyXML, EntityWithoutEndThatIsRepeated_IsMalformed) {
+    const auto blowUp = [](std::size_t times) {
+        return "<!DOCTYPE a [<!ENTITY e '" + std::string(1'000'000, 'e') +
+               "'>]><a><gap/><clip><name>" + repeated("&e;", times) + "</name></clip><gap/></a>";
+    };
+    EXPECT_EQ(eventCount(blowUp(3)), 3U);
+    EXPECT_EQ(eventCount(blowUp(20)), 2U);
+}
+
+}  // namespace
+}  // namespace clipvane::test
