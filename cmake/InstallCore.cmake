@@ -22,3 +22,5 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/ClipvaneConfigVersion.cma
 install(FILES ${PROJECT_BINARY_DIR}/ClipvaneConfig.cmake
               ${PROJECT_BINARY_DIR}/ClipvaneConfigVersion.cmake
         DESTINATION ${core_package_dir} COMPONENT core)
+install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/doc/clipvane
+        COMPONENT core)

@@ -1,24 +1,20 @@
-// An EDL through detection, reading, both exports and back: what was written must read again as the
-// same number of events, unless a name or reel breaks its line.
+// The EDL reader gives the events that ICU's engine finds with the event pattern, and bytes become
+// the text that ICU makes of them.
 
-#include "Guarded.h"
+#include "Events.h"
+#include "Target.h"
 #include "base/UTF8.h"
-#include "commands/CSVReport.h"
-#include "commands/EditedEDL.h"
 #include "import/TimelineParser.h"
+#include "judges/EDLJudge.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace clipvane;
-    guarded([&] {
-        const std::string text = replaceInvalidUTF8(textOf(data, size));
-        TimelineDocument document;
-        document.events = TimelineParser::parseEDL(text);
-        document.fps = TimelineParser::detectFPS(text).value_or(document.fps);
-        // A column ends at white space, so no event's own line can be broken or lost.
-        if (TimelineParser::parseEDL(edlText(document)).size() != document.events.size()) {
-            __builtin_trap();
-        }
-        csvText(document);
-    });
+    using namespace clipvane::fuzz;
+    static test::EDLJudge judge;
+    const icu::UnicodeString judgedText = test::utf16(textOf(data, size));
+    const std::string text = replaceInvalidUTF8(textOf(data, size));
+    require(text == test::utf8(judgedText), "invalid bytes become U+FFFD as ICU has it");
+    require(sameFields(TimelineParser::parseEDL(text), judge.read(judgedText)),
+            "the events are those of the event pattern");
     return 0;
 }

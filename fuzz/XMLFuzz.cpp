@@ -1,22 +1,30 @@
-// An XML timeline through detection, reading and both exports.
+// The XML reader gives the events of a reader that goes step by step, at the rate that the document
+// names.
 
-#include "Guarded.h"
+#include "Events.h"
+#include "Target.h"
 #include "base/UTF8.h"
-#include "commands/CSVReport.h"
-#include "commands/EditedEDL.h"
 #include "import/TimelineParser.h"
+#include "import/XMLEncoding.h"
+#include "judges/XMLJudge.h"
+#include "model/FrameRateSource.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace clipvane;
-    guarded([&] {
-        const std::string_view bytes = textOf(data, size);
-        TimelineDocument document;
-        document.fps = TimelineParser::detectFPS(bytes).value_or(document.fps);
-        document.events = TimelineParser::parseXML(bytes, document.fps);
-        // Whatever the bytes were, texts are UTF-8.
-        const std::string edl = edlText(document);
-        if (validUTF8Prefix(edl) != edl.size()) __builtin_trap();
-        csvText(document);
+    using namespace clipvane::fuzz;
+    const std::string_view document = textOf(data, size);
+    const double fps = TimelineParser::detectFPS(document).value_or(defaultFPS);
+
+    const auto events = unlessFatal([&] { return TimelineParser::parseXML(document, fps); });
+    const auto expected = unlessFatal([&] {
+        const XMLBytes readable = readableXML(document);
+        return test::judgedXML(readable.of(document), readable.encoding, fps);
     });
+    require(events.has_value() == expected.has_value(), "both stop, or neither");
+    if (!events) return 0;
+    require(sameFields(*events, *expected), "the events are those of the plain reader");
+    for (const TimelineEvent& event : *events) {
+        require(validUTF8Prefix(event.clipName) == event.clipName.size(), "names are UTF-8");
+    }
     return 0;
 }

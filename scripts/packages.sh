@@ -2,8 +2,12 @@
 
 build_packages=(g++ cmake ninja-build pkgconf libicu-dev libexpat1-dev libexpected-dev
                 nlohmann-json3-dev qt6-base-dev libgl-dev)
-run_packages=(fonts-inter fonts-jetbrains-mono)
+# The toolkit's way to a Wayland desktop is a package of its own.
+run_packages=(fonts-inter fonts-jetbrains-mono qt6-wayland)
 display_packages=(xvfb openbox xdotool x11-utils xclip imagemagick dbus at-spi2-core
                   python3-pyatspi)
-test_packages=(clang libclang-rt-14-dev libgtest-dev libgmock-dev libbenchmark-dev locales
-               "${display_packages[@]}")
+packaging_packages=(dpkg-dev file gzip lintian)
+validator_packages=(appstream desktop-file-utils librsvg2-bin man-db reuse
+                    "${packaging_packages[@]}")
+test_packages=(clang libclang-rt-14-dev libgtest-dev libgmock-dev libbenchmark-dev locales weston
+               "${display_packages[@]}" "${validator_packages[@]}")

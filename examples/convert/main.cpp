@@ -42,6 +42,10 @@ int main(int argc, char** argv) {
 
     const std::filesystem::path csv = folder / timeline.stem().concat(".csv");
     const std::filesystem::path edl = folder / timeline.stem().concat(".edl");
+    std::error_code notThere;
+    if (std::filesystem::equivalent(edl, timeline, notThere)) {
+        return fail({"convert", 1, "the folder is the timeline's own: its EDL would replace it"});
+    }
     if (const auto written = writeCSV(document, csv); !written) return fail(written.error());
     if (const auto written = writeEDL(document, edl); !written) return fail(written.error());
 

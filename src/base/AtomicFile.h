@@ -25,6 +25,7 @@ namespace clipvane {
 ///     return file->commit();
 class AtomicFile {
   public:
+    /// This, `write` and `commit` fail with the system's error about `destination`.
     static Result<AtomicFile> create(const std::filesystem::path& destination);
 
     AtomicFile(AtomicFile&& other) noexcept;

@@ -12,6 +12,7 @@ struct CodePoint {
     std::size_t length = 0;
 };
 
+/// `firstCodePoint` of a text whose first byte is not ASCII.
 CodePoint firstCodePointBeyondASCII(std::string_view text);
 
 /// The first code point of `text`, which must not be empty. An ill-formed sequence is read as
@@ -24,6 +25,7 @@ inline CodePoint firstCodePoint(std::string_view text) {
 /// The last code point of `text`, which must not be empty, by the same rule.
 CodePoint lastCodePoint(std::string_view text);
 
+/// Appends `codePoint`, or U+FFFD for a surrogate or what lies above U+10FFFF.
 void appendUTF8(std::string& text, char32_t codePoint);
 
 /// True when `text` holds bytes below 0x80 only.

@@ -18,7 +18,7 @@ using ChunkSink = std::function<Result<void>(std::string_view chunk)>;
 /// A text that is made piece by piece, each handed to the sink.
 using ChunkedText = std::function<Result<void>(const ChunkSink& sink)>;
 
-/// Small enough to stay in the processor's cache, large enough to be worth a system call.
+/// In bytes. Small enough to stay in the processor's cache, large enough to be worth a system call.
 inline constexpr std::size_t chunkSize = std::size_t{256} << 10;
 
 /// The text made of `head` and of what `appendEvent(std::string&, event)` adds for each event, in
@@ -38,9 +38,11 @@ Result<void> makeChunks(std::string_view head, const std::vector<TimelineEvent>&
     return sink(chunk);
 }
 
+/// The whole of `text` at once.
 std::string wholeText(const ChunkedText& text);
 
-/// Writes `text` to `url` atomically, without ever holding the whole of it.
+/// Writes `text` to `url` atomically, without ever holding the whole of it. Fails with the system's
+/// error, or with one that the making of the text gave.
 Result<void> writeText(const ChunkedText& text, const std::filesystem::path& url);
 
 }  // namespace clipvane

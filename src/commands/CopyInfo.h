@@ -8,7 +8,8 @@
 namespace clipvane {
 
 /// What "Copy Info" puts on the pasteboard: ten labelled lines about `event` and the document's
-/// rate, joined by line feeds. Values stand as they are, a comment's line breaks included.
+/// rate (`fps`, in frames per second), joined by line feeds. Values stand as they are, a comment's
+/// line breaks included.
 std::string copyInfoText(const TimelineEvent& event, double fps, std::string_view fpsSource);
 
 }  // namespace clipvane

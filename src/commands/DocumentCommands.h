@@ -31,6 +31,7 @@ class DocumentCommands {
     DocumentCommands& operator=(const DocumentCommands&) = delete;
     virtual ~DocumentCommands() = default;
 
+    // What the buttons and the pop-up call. What fails is told in an alert, success in the status.
     void openTimeline();
     void fpsChanged();
     void removeSelectedEvent();

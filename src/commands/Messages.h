@@ -24,7 +24,7 @@ std::string loadedStatus(const TimelineDocument& document, const std::filesystem
 Alert openFailedAlert(const Error& error);
 Alert checkFrameRateAlert();
 
-// The other commands.
+// The other commands. Rates are in frames per second.
 std::string convertedStatus(std::size_t timecodes, double from, double to);
 std::string removedStatus(std::size_t remaining);
 inline constexpr const char* copiedStatus = "Copied selected event information.";

@@ -11,6 +11,7 @@ class AppLog {
   public:
     AppLog() = delete;
 
+    /// The log's fixed place, which the users' documents name.
     static const std::filesystem::path& url();
 
     /// Appends one line with the time and the message. Never fails visibly.

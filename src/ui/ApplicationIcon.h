@@ -4,7 +4,8 @@
 
 namespace clipvane {
 
-/// A weather vane's arrow over the clips of a timeline.
+/// A weather vane's arrow over the clips of a timeline: the pictures of packaging/icons, which the
+/// program carries within itself.
 QIcon applicationIcon();
 
 }  // namespace clipvane

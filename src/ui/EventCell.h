@@ -8,7 +8,7 @@ namespace clipvane {
 /// whole text as a tool tip where it does not fit.
 class EventCell : public QStyledItemDelegate {
   public:
-    static constexpr int padding = 8;  ///< on the left and on the right
+    static constexpr int padding = 8;  ///< in logical pixels, on the left and on the right
 
     explicit EventCell(QObject* parent = nullptr);
 

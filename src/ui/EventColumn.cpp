@@ -4,9 +4,9 @@
 
 namespace clipvane {
 
-const std::array<EventColumn, 8>& eventColumns() {
+std::span<const EventColumn> eventColumns() {
     using Event = TimelineEvent;
-    static const std::array<EventColumn, 8> columns{{
+    static const EventColumn columns[] = {
         {"eventNumber", "#", 64, &Event::eventNumber, colours::numberField},
         {"clipName", "Clip Name", 280, &Event::clipName, colours::clipNameField},
         {"reelID", "Reel ID", 140, &Event::reelID, colours::reelField},
@@ -15,7 +15,7 @@ const std::array<EventColumn, 8>& eventColumns() {
         {"recordIn", "Record In", 132, &Event::recordIn, colours::recordField},
         {"recordOut", "Record Out", 132, &Event::recordOut, colours::recordField},
         {"format", "Type", 78, &Event::format, colours::secondaryText},
-    }};
+    };
     return columns;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QColor>
-#include <array>
+#include <span>
 #include <string>
 
 #include "model/TimelineEvent.h"
@@ -12,12 +12,12 @@ namespace clipvane {
 struct EventColumn {
     const char* identifier;  ///< the field's name
     const char* title;
-    int width;  ///< at first, and at least
+    int width;  ///< in logical pixels, at first and at least
     std::string TimelineEvent::*field;
     QColor colour;
 };
 
-/// The eight columns, from the left.
-const std::array<EventColumn, 8>& eventColumns();
+/// The columns, from the left.
+std::span<const EventColumn> eventColumns();
 
 }  // namespace clipvane

@@ -14,7 +14,7 @@ namespace clipvane {
 /// as fast as one of ten. The toolkit's own vertical header would remember every row's height.
 class EventTableView : public QTableView {
   public:
-    static constexpr int rowHeight = 48;  ///< 44, and 4 between two rows
+    static constexpr int rowHeight = 48;  ///< in logical pixels: 44, and 4 between two rows
     static constexpr int headerHeight = 32;
 
     explicit EventTableView(QWidget* parent = nullptr);

@@ -149,6 +149,7 @@ const std::vector<IntegerRow> integers{
     {"Smallest", "-9223372036854775808", smallest},
     {"LargestBehindZeros", "000000000000000000009223372036854775807", largest},
     {"AboveLargest", "9223372036854775808", std::nullopt},
+    {"SmallestAndADigit", "-92233720368547758080", std::nullopt},
     {"BelowSmallest", "-9223372036854775809", std::nullopt},
     {"FarAbove", "99999999999999999999999", std::nullopt},
     {"Empty", "", std::nullopt},

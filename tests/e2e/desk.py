@@ -223,9 +223,9 @@ def run(desk, session):
         desk.end()
 
 
-def run_test(session):
+def run_test(session, kind=Desk):
     """Runs a test of the program and in the folder that the command line names."""
     program, output = sys.argv[1:3]
     shutil.rmtree(output, ignore_errors=True)
-    run(Desk(program, output), session)
+    run(kind(program, output), session)
     print("passed")

@@ -1,10 +1,7 @@
 #include "import/ClipNameComment.h"
 
 #include <gtest/gtest.h>
-#include <unicode/locid.h>
 
-#include "base/UTF8.h"
-#include "import/Judge.h"
 #include "support/RowName.h"
 
 namespace clipvane::test {
@@ -73,37 +70,6 @@ INSTANTIATE_TEST_SUITE_P(
                     Row{"replacedBytes", "\uFFFDfrom clip name: \uFFFD", "\uFFFD"},
                     Row{"empty", "", std::nullopt}),
     RowName());
-
-bool isKeywordInUpperCase(const std::string& line) {
-    return utf16(line).toUpper(icu::Locale::getRoot()).indexOf("FROM CLIP NAME") >= 0;
-}
-
-constexpr std::string_view spelling = "frOm cLip namE";
-
-/// The keyword with `insertion` in place of its `count` letters from `position`.
-std::string keywordWith(std::string_view insertion, std::size_t position, std::size_t count) {
-    std::string line(spelling.substr(0, position));
-    line += insertion;
-    line += spelling.substr(position + count);
-    return line;
-}
-
-TEST(ClipNameCommentJudge, EveryCodePointForEveryLetterAndAroundIt_IsFoundAsInUpperCase) {
-    const auto judged = [](const std::string& line) {
-        return clipNameComment(line).has_value() == isKeywordInUpperCase(line);
-    };
-    for (char32_t c = 0; c <= 0x10FFFF; ++c) {
-        if (c >= 0xD800 && c <= 0xDFFF) continue;
-        std::string s;
-        appendUTF8(s, c);
-        for (std::size_t i = 0; i < spelling.size(); ++i) {
-            ASSERT_TRUE(judged(keywordWith(s, i, 1))) << keywordWith(s, i, 1);
-        }
-        for (const std::size_t i : {std::size_t{0}, std::size_t{7}, spelling.size()}) {
-            ASSERT_TRUE(judged(keywordWith(s, i, 0))) << keywordWith(s, i, 0);
-        }
-    }
-}
 
 }  // namespace
 }  // namespace clipvane::test

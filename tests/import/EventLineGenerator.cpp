@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "base/UTF8.h"
+#include "import/GeneratedCharacters.h"
 
 namespace clipvane::test {
 namespace {
@@ -50,15 +51,12 @@ constexpr std::array words{
     "\u0661"sv,     "FROM CLIP NAME"sv,
 };
 
-/// Ill-formed UTF-8, which reaches the reader as U+FFFD.
-constexpr std::array illFormed{"\xFF"sv, "\xC0\x80"sv, "\xE2\x82"sv,    "\xED\xA0\x80"sv,
-                               "\x85"sv, "\xA0"sv,     "\xF0\x9F\x98"sv};
-
 std::string blank(Random& random) {
     if (random.oneIn(150)) return std::string(random.pick(falseBlanks));
     std::string text(random.oneIn(4) ? random.pick(blanks) : " "sv);
     if (random.oneIn(6)) text += random.pick(blanks);
     if (random.oneIn(200)) text += random.pick(falseBlanks);
+    if (random.oneIn(1000)) text.append(random.below(300), ' ');
     return text;
 }
 
@@ -85,10 +83,20 @@ std::string timecode(Random& random) {
     return text;
 }
 
+/// Now and then a column is longer than any buffer on the stack.
+std::string longColumn(Random& random) {
+    std::string text;
+    for (std::size_t left = random.below(1000); left > 0; --left) {
+        text += random.oneIn(30) ? random.pick(words) : "0"sv;
+    }
+    return text;
+}
+
 /// Mostly one word; sometimes a timecode or digits, to be taken for another column.
 std::string column(Random& random) {
     if (random.oneIn(40)) return timecode(random);
     if (random.oneIn(40)) return digits(random, 1 + random.below(4));
+    if (random.oneIn(500)) return longColumn(random);
     return std::string(random.pick(words));
 }
 
@@ -97,38 +105,12 @@ std::string duration(Random& random) {
     return digits(random, 1 + random.below(4));
 }
 
-/// Replaces, inserts, deletes or doubles a byte somewhere, which may tear a character.
-void mutate(Random& random, std::string& line) {
-    if (line.empty()) return;
-    const std::size_t at = random.below(line.size());
-    switch (random.below(6)) {
-        case 0:
-            line.erase(at, 1 + random.below(4));
-            break;
-        case 1:
-            line.insert(at, random.pick(blanks));
-            break;
-        case 2:
-            line.insert(at, random.pick(falseBlanks));
-            break;
-        case 3:
-            line.insert(at, random.pick(illFormed));
-            break;
-        case 4:
-            line.insert(at, line.substr(at, 1 + random.below(12)));
-            break;
-        default:
-            line.resize(at);
-            break;
-    }
-}
-
 }  // namespace
 
 std::string generateEventLine(Random& random) {
     std::string line;
     if (random.oneIn(4)) line += blank(random);
-    line += digits(random, random.oneIn(100) ? 0 : 1 + random.below(5));
+    line += digits(random, random.oneIn(100) ? 0 : 1 + random.below(random.oneIn(500) ? 400 : 5));
     // Reel, track and edit type, now and then one too few or too many.
     const std::size_t columns = random.oneIn(20) ? 2 + random.below(3) : 3;
     for (std::size_t i = 0; i < columns; ++i) line += blank(random) + column(random);
@@ -138,7 +120,7 @@ std::string generateEventLine(Random& random) {
     for (std::size_t i = 0; i < timecodes; ++i) line += blank(random) + timecode(random);
     if (random.oneIn(5)) line += digit(random);
     if (random.oneIn(5)) line += blank(random) + column(random);
-    if (random.oneIn(5)) mutate(random, line);
+    if (random.oneIn(4)) slip(random, line);
     return replaceInvalidUTF8(line);
 }
 

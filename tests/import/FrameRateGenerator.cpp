@@ -5,6 +5,7 @@
 
 #include "base/Characters.h"
 #include "base/UTF8.h"
+#include "import/GeneratedCharacters.h"
 
 namespace clipvane::test {
 namespace {
@@ -34,9 +35,13 @@ constexpr std::array falseNumbers{""sv,       "."sv,      ".5"sv,     "25."sv,  
                                   "-25"sv,    "+25"sv,    "0x19"sv,   "1e3"sv,          "25,5"sv,
                                   "inf"sv,    "nan"sv,    "2 5"sv,    "\u0662\u0665"sv, "\uFF12"sv,
                                   "25.5.5"sv, "\u00B2"sv, "2\u0300"sv};
-constexpr std::array fillers{"TITLE "sv, "f"sv,      "fp"sv,     "fra"sv,       "tim"sv,
-                             "<"sv,      "\u00E9"sv, "\n"sv,     "t"sv,         "FPS"sv,
-                             "s"sv,      "fram"sv,   "\uFFFD"sv, "\U0001F3AC"sv};
+constexpr std::array fillers{"TITLE "sv, "f"sv,           "fp"sv,
+                             "fra"sv,    "tim"sv,         "<"sv,
+                             "\u00E9"sv, "\n"sv,          "t"sv,
+                             "FPS"sv,    "s"sv,           "fram"sv,
+                             "\uFFFD"sv, "\U0001F3AC"sv,  "fps:"sv,
+                             "frame "sv, "time"sv,        "<timebase>"sv,
+                             "\0"sv,     "timebase=\""sv, "frameduration='1/"sv};
 
 template <class Pool, class FalsePool>
 std::string mostly(Random& random, const Pool& pool, const FalsePool& falsePool) {
@@ -49,10 +54,19 @@ std::string space(Random& random) {
     return text;
 }
 
+std::string digits(Random& random) {
+    std::string text;
+    for (std::size_t left = 1 + random.below(25); left > 0; --left) {
+        text += static_cast<char>('0' + random.below(10));
+    }
+    return text;
+}
+
 std::string number(Random& random) {
     constexpr std::size_t beyondDoubles = 400;
     if (random.oneIn(60)) return std::string(beyondDoubles, '7');
     if (random.oneIn(60)) return "0." + std::string(beyondDoubles, '0') + '1';
+    if (random.oneIn(10)) return digits(random) + (random.oneIn(2) ? "." + digits(random) : "");
     return mostly(random, numbers, falseNumbers);
 }
 
@@ -124,8 +138,9 @@ std::string generateFrameRateText(Random& random) {
         while (!random.oneIn(3)) text += random.pick(fillers);
         text.append(random.below(18), ' ');
     }
-    if (random.oneIn(5)) text.erase(random.below(text.size()), 1 + random.below(3));
-    if (random.oneIn(8)) text.resize(random.below(text.size() + 1));
+    for (std::size_t slips = random.oneIn(3) ? 1 + random.below(3) : 0; slips > 0; --slips) {
+        slip(random, text);
+    }
     return replaceInvalidUTF8(text);
 }
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "import/Judge.h"
+#include "judges/Pattern.h"
 #include "support/Random.h"
 #include "support/RowName.h"
 #include "support/Scale.h"
@@ -104,9 +104,10 @@ TEST(LinesJudge, GeneratedTexts_AreSplitAtMandatoryBreaks) {
                                 "\t"sv,     "\x1C"sv,   "\0"sv,     "\uFFFD"sv, "12345678"sv,
                                 "  "sv,     "\x0E"sv,   "\u200B"sv, "\uFEFF"sv, "\u0A85"sv};
     Random random;
-    for (std::size_t i = 0; i < scaled(200'000); ++i) {
+    for (std::size_t left = generatedCases(200'000); left > 0; --left) {
         std::string text;
-        for (std::size_t left = random.below(24); left > 0; --left) text += random.pick(pieces);
+        for (auto piecesLeft = random.below(24); piecesLeft > 0; --piecesLeft)
+            text += random.pick(pieces);
         ASSERT_EQ(linesOf(text), linesByProperty(utf16(text))) << text;
     }
 }

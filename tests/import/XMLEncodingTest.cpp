@@ -6,8 +6,8 @@
 #include <string>
 
 #include "base/UTF8.h"
-#include "import/Judge.h"
 #include "import/TimelineParser.h"
+#include "judges/Pattern.h"
 #include "support/RowName.h"
 
 namespace clipvane::test {

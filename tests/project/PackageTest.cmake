@@ -1,5 +1,6 @@
 # Installs the logic into a folder of the test's own, builds examples/convert against it as another
-# program would, and converts the sample timeline with it.
+# program would, and converts the sample timeline with it. Without a BUILD_DIR to install from, the
+# logic is expected where the system's packages put it.
 cmake_minimum_required(VERSION 3.25)
 
 function(run)
@@ -19,10 +20,13 @@ endif()
 
 file(REMOVE_RECURSE ${WORK_DIR})
 file(MAKE_DIRECTORY ${WORK_DIR}/exports)
-run(${CMAKE_COMMAND} --install ${BUILD_DIR} --component core --prefix ${WORK_DIR}/prefix)
-run(${CMAKE_COMMAND} -S ${SOURCE_DIR}/examples/convert -B ${WORK_DIR}/build -G Ninja
-    -D CMAKE_PREFIX_PATH=${WORK_DIR}/prefix -D CMAKE_CXX_COMPILER=${CXX_COMPILER}
-    -D CMAKE_CXX_FLAGS=${flags})
+set(prefix "")
+if(BUILD_DIR)
+    set(prefix -D CMAKE_PREFIX_PATH=${WORK_DIR}/prefix)
+    run(${CMAKE_COMMAND} --install ${BUILD_DIR} --component core --prefix ${WORK_DIR}/prefix)
+endif()
+run(${CMAKE_COMMAND} -S ${SOURCE_DIR}/examples/convert -B ${WORK_DIR}/build -G Ninja ${prefix}
+    -D CMAKE_CXX_COMPILER=${CXX_COMPILER} -D CMAKE_CXX_FLAGS=${flags})
 run(${CMAKE_COMMAND} --build ${WORK_DIR}/build)
 run(${WORK_DIR}/build/convert ${SOURCE_DIR}/examples/timelines/harbour.edl ${WORK_DIR}/exports)
 

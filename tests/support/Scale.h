@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdlib>
 
 namespace clipvane::test {
 
@@ -24,6 +25,12 @@ constexpr std::size_t scaled(std::size_t count) {
 #else
     return count / 4;
 #endif
+}
+
+/// `scaled(count)`, unless CLIPVANE_TEST_CASES asks for another number: for long runs.
+inline std::size_t generatedCases(std::size_t count) {
+    const char* const chosen = std::getenv("CLIPVANE_TEST_CASES");
+    return chosen != nullptr ? std::strtoull(chosen, nullptr, 10) : scaled(count);
 }
 
 }  // namespace clipvane::test

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "judges/TimecodeJudge.h"
 #include "support/ThrowingFatal.h"
 #include "timecode/FrameRate.h"
 #include "timecode/Timecode.h"
@@ -134,56 +135,6 @@ TEST(ConvertTimecode, DividesBeforeItMultiplies) {
     }
 }
 
-/// Reading a timecode step by step as it is described, with no thought of speed. Nothing for other
-/// texts; leaves the 64 bits as `Overflow`.
-struct Overflow {};
-
-__extension__ using Wide = __int128;
-
-std::int64_t within64Bits(Wide value) {
-    if (value < smallest || value > largest) throw Overflow();
-    return static_cast<std::int64_t>(value);
-}
-
-std::optional<std::int64_t> integer(const std::string& piece) {
-    const std::size_t signs = piece.starts_with('+') || piece.starts_with('-') ? 1 : 0;
-    if (piece.size() == signs) return std::nullopt;
-    Wide value = 0;
-    for (const char c : piece.substr(signs)) {
-        if (c < '0' || c > '9') return std::nullopt;
-        if (value <= largest) value = value * 10 + (c - '0');
-    }
-    if (piece.starts_with('-')) value = -value;
-    if (value < smallest || value > largest) return std::nullopt;
-    return static_cast<std::int64_t>(value);
-}
-
-std::optional<std::int64_t> plainFrames(std::string text, std::int64_t base) {
-    for (char& c : text) {
-        if (c == ';') c = ':';
-    }
-    std::vector<std::string> pieces(1);
-    for (const char c : text) {
-        if (c == ':') {
-            pieces.emplace_back();
-        } else {
-            pieces.back() += c;
-        }
-    }
-    std::vector<std::int64_t> numbers;
-    for (const std::string& piece : pieces) {
-        if (const auto number = integer(piece)) numbers.push_back(*number);
-    }
-    if (numbers.size() != 4) return std::nullopt;
-    const Wide sixty = 60;
-    std::int64_t count = within64Bits(numbers[0] * sixty);
-    count = within64Bits(static_cast<Wide>(count) + numbers[1]);
-    count = within64Bits(count * sixty);
-    count = within64Bits(static_cast<Wide>(count) + numbers[2]);
-    count = within64Bits(static_cast<Wide>(count) * base);
-    return within64Bits(static_cast<Wide>(count) + numbers[3]);
-}
-
 /// Texts that are timecodes, or nearly so.
 class Texts {
   public:
@@ -241,7 +192,7 @@ TEST(Frames, EveryByteAtEveryPlaceOfATimecode_IsReadAsTheDescriptionSays) {
             for (int byte = 0; byte < 256; ++byte) {
                 std::string text = timecode;
                 text[at] = static_cast<char>(byte);
-                ASSERT_EQ(frames(text, 25), plainFrames(text, 25)) << text;
+                ASSERT_EQ(frames(text, 25), judgedFrames(text, 25)) << text;
                 const std::string converted = convertTimecode(text, 25, 50);
                 ASSERT_EQ(frames(converted, 50).has_value(), frames(text, 25).has_value()) << text;
                 if (!frames(text, 25)) continue;
@@ -265,7 +216,7 @@ TEST(Frames, AMillionTexts_AreReadAsTheDescriptionSays) {
         std::optional<std::int64_t> expected;
         bool isFatal = false;
         try {
-            expected = plainFrames(text, frameBase(fps));
+            expected = judgedFrames(text, fps);
         } catch (const Overflow&) {
             isFatal = true;
         }

@@ -82,7 +82,7 @@ def kill_at_random(program, targets, cut, expected, moments, tally):
     else:
         moment = f"in or after {calls[-1]}"
     tally.count(f"random kills that fell {moment}")
-    tally.count(f"random kills that left {left} hidden temporaries")
+    tally.count(f"random kills, {targets[0].way}, that left {left} hidden temporaries")
     for target in targets:
         is_new = content(target.place) == expected
         tally.count(f"random kills after which the {'new' if is_new else 'old'} file was there, "

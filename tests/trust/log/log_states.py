@@ -256,6 +256,12 @@ STATES = (absent, regular, link_to_own_file, chain_of_own_links, dangling_link,
           device, listening_socket, full_disk, full_disk_and_no_log, read_only_mount,
           size_limit_by_signal)
 
+# What is not for the log is not even opened: a device may act on that alone.
+NEVER_OPENED = (link_of_another_to_own_file, dangling_link_of_another,
+                own_link_to_a_file_of_another, loop, fifo_without_reader, fifo_with_reader,
+                fifo_of_another, link_to_a_fifo, folder, file_of_another,
+                hard_link_to_a_file_of_another, device, listening_socket)
+
 
 def clear():
     """Takes away what a state made."""

@@ -62,8 +62,10 @@ def check_state(programs, state, user):
     check = state(user)
     if state is log_states.read_only_file and user == 0:
         check = log_states.appended(LOG)
-    write_log(programs, user, limited=state is log_states.size_limit_by_signal)
+    calls = write_log(programs, user, limited=state is log_states.size_limit_by_signal)
     check(LINES)
+    if state in log_states.NEVER_OPENED:
+        expect("open" not in calls, "opened")
 
 
 def check_faults(programs):

@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
+// Lists the events of a timeline, at another frame rate if one is given:
+//
+//     list cut.fcpxml
+//     list cut.fcpxml 25
+
+#include <cstdio>
+
+#include "base/Number.h"
+#include "commands/TimelineRate.h"
+#include "import/TimelineParser.h"
+#include "model/FrameRateSource.h"
+#include "timecode/FrameRate.h"
+
+namespace {
+
+const char* shown(const std::string& field) {
+    return field.empty() ? "-" : field.c_str();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    using namespace clipvane;
+    const double rate = argc == 3 ? parseNumber(argv[2]).value_or(0) : 0;
+    if (argc != 2 && !(rate > 0 && rate <= 1000)) {
+        std::fputs("usage: list TIMELINE [FPS]\n", stderr);
+        return 2;
+    }
+
+    auto timeline = TimelineParser::parse(argv[1]);
+    if (!timeline) {
+        std::fprintf(stderr, "list: %s\n", timeline.error().description.c_str());
+        return 1;
+    }
+    if (rate > 0) {
+        convertTimecodes(timeline->events, timeline->fps, rate);
+        timeline->fps = rate;
+        timeline->fpsSource = fpsSourceManual;
+    }
+
+    std::printf("%zu events at %s fps (%s)\n", timeline->events.size(),
+                formatFPS(timeline->fps).c_str(), timeline->fpsSource.c_str());
+    for (const TimelineEvent& event : timeline->events) {
+        std::printf("%s  %s  %s  %s %s  %s %s  %s\n", shown(event.eventNumber), shown(event.reelID),
+                    shown(event.track), shown(event.sourceIn), shown(event.sourceOut),
+                    shown(event.recordIn), shown(event.recordOut), shown(event.clipName));
+    }
+    return 0;
+}

@@ -1,0 +1,35 @@
+# What Debian's policy adds to an installed tree: compressed manual pages and changelogs, and the
+# licence under the name that Debian gives it. CPack runs this before it makes the packages.
+
+string(TIMESTAMP now "%a, %d %b %Y %H:%M:%S +0000" UTC)
+set(version ${CPACK_PACKAGE_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})
+
+find_program(GZIP gzip REQUIRED)
+function(compress file)
+    execute_process(COMMAND ${GZIP} --best --no-name ${file} COMMAND_ERROR_IS_FATAL ANY)
+endfunction()
+
+foreach(component IN LISTS CPACK_COMPONENTS_ALL)
+    string(TOUPPER ${component} name)
+    set(package ${CPACK_DEBIAN_${name}_PACKAGE_NAME})
+    set(share ${CPACK_TEMPORARY_DIRECTORY}/${component}${CPACK_PACKAGING_INSTALL_PREFIX}/share)
+    set(documents ${share}/doc/${package})
+
+    file(RENAME ${share}/doc/clipvane/LICENSE ${share}/doc/copyright)
+    file(REMOVE_RECURSE ${share}/doc/clipvane)
+    file(MAKE_DIRECTORY ${documents})
+    file(RENAME ${share}/doc/copyright ${documents}/copyright)
+
+    file(COPY_FILE ${CMAKE_CURRENT_LIST_DIR}/../../CHANGELOG.md ${documents}/changelog)
+    file(WRITE ${documents}/changelog.Debian
+"clipvane (${version}) unstable; urgency=medium
+
+  * Package of Clipvane ${CPACK_PACKAGE_VERSION}.
+
+ -- ${CPACK_PACKAGE_CONTACT}  ${now}
+")
+    file(GLOB documents ${documents}/changelog* ${share}/man/man*/*)
+    foreach(document IN LISTS documents)
+        compress(${document})
+    endforeach()
+endforeach()

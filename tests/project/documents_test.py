@@ -1,0 +1,158 @@
+# SPDX-FileCopyrightText: 2026 The Clipvane developers
+# SPDX-License-Identifier: MIT
+
+"""Runs what the documents show, and follows what they name.
+
+    documents_test.py TREE LIST CONVERT SURVEY VERSION
+
+LIST, CONVERT and SURVEY are the built examples; VERSION is the project's.
+"""
+
+import pathlib
+import re
+import signal
+import subprocess
+import sys
+import tempfile
+import unittest
+
+TREE, LIST, CONVERT, SURVEY = (pathlib.Path(a).absolute() for a in sys.argv[1:5])
+VERSION = sys.argv[5]
+
+
+def documents():
+    return [*TREE.glob("*.md"), *TREE.glob("docs/**/*.md")]
+
+
+def text_of(name):
+    return (TREE / name).read_text(encoding="utf-8")
+
+
+def blocks(text):
+    """The fenced blocks as (info string, content)."""
+    return re.findall(r"^```([^\n]+)\n(.*?)^```$", text, re.MULTILINE | re.DOTALL)
+
+
+def run(*command, cwd=None):
+    return subprocess.run([str(part) for part in command], cwd=cwd, capture_output=True,
+                          text=True, encoding="utf-8", check=False)
+
+
+class Formats(unittest.TestCase):
+    def test_every_example_is_read_and_written_as_shown(self):
+        shown = blocks(text_of("docs/formats.md"))
+        timeline = None
+        checked = 0
+        with tempfile.TemporaryDirectory() as name:
+            folder = pathlib.Path(name)
+            exports = folder / "exports"
+            exports.mkdir()
+            for info, content in shown:
+                if info in ("edl", "xml"):
+                    timeline = folder / f"example.{info}"
+                    timeline.write_text(content, encoding="utf-8")
+                    continue
+                with self.subTest(info=info, timeline=timeline.read_text()):
+                    if info == "text":
+                        said = run(LIST, timeline).stdout
+                    else:
+                        run(CONVERT, timeline, exports)
+                        suffix = {"csv": ".csv", "edl written": ".edl"}[info]
+                        said = (exports / "example").with_suffix(suffix).read_text()
+                    self.assertEqual(said, content)
+                checked += 1
+        self.assertGreaterEqual(checked, 7)
+
+    def test_times_in_xml_mean_what_the_table_says(self):
+        rows = re.findall(r"^\| (`.*`) \| [^|]* \| (.*) \|$",
+                          text_of("docs/formats.md").split("## Times in XML")[1].split("\n## ")[0],
+                          re.MULTILINE)
+        self.assertGreaterEqual(len(rows), 6)
+        for written, expected in rows:
+            values = re.findall("`([^`]*)`", written)
+            times = re.findall("`([^`]*)`", expected) or ["-"]
+            self.assertEqual(len(values), len(times))
+            for value, time in zip(values, times):
+                with self.subTest(value=value), tempfile.TemporaryDirectory() as folder:
+                    timeline = pathlib.Path(folder) / "time.xml"
+                    timeline.write_text(f'<a timebase="25"><event><source in="{value}"/></event></a>')
+                    self.assertEqual(run(LIST, timeline).stdout.split("\n")[1],
+                                     f"1  -  -  {time} -  - -  -")
+
+
+class Corpus(unittest.TestCase):
+    def test_the_table_is_what_the_survey_prints(self):
+        def without_times(table):
+            return re.sub(r" +[0-9.]+ ms$| +Time$|, [0-9.]+ ms$", "", table, flags=re.MULTILINE)
+        said = run(SURVEY, "examples/timelines", "tests/fixtures", cwd=TREE).stdout
+        [table] = [content for info, content in blocks(text_of("docs/corpus.md")) if info == "text"]
+        self.assertEqual(without_times(said), without_times(table))
+
+
+class Library(unittest.TestCase):
+    def test_the_example_is_the_file_that_is_built(self):
+        [example] = [content for info, content in blocks(text_of("docs/api/README.md"))
+                     if info == "cpp"]
+        file = re.sub(r"\A(// SPDX-[^\n]*\n)+\n?", "", text_of("examples/list/main.cpp"))
+        self.assertEqual(example, file)
+
+    def test_every_header_named_exists(self):
+        headers = re.findall(r"`([a-z]+/[A-Za-z0-9]+\.h)`", text_of("docs/api/README.md"))
+        self.assertGreaterEqual(len(headers), 10)
+        for header in headers:
+            with self.subTest(header=header):
+                self.assertTrue((TREE / "src" / header).is_file())
+
+
+class Security(unittest.TestCase):
+    def test_every_input_named_stops_the_program_with_its_reason(self):
+        part = text_of("SECURITY.md").split("## What stops the program on purpose")[1]
+        rows = re.findall(r"^\| (EDL|XML) \| `(.*)` \| (.*) \| (.*) \|$", part.split("\n## ")[0],
+                          re.MULTILINE)
+        self.assertGreaterEqual(len(rows), 8)
+        for kind, content, when, reason in rows:
+            with self.subTest(content=content), tempfile.TemporaryDirectory() as folder:
+                timeline = pathlib.Path(folder) / f"hostile.{kind.lower()}"
+                timeline.write_text(content.replace(" ⏎ ", "\n") + "\n", encoding="utf-8")
+                opening = run(LIST, timeline)
+                if when == "opening":
+                    self.assert_stopped(opening, reason)
+                    continue
+                self.assertEqual(opening.returncode, 0, opening.stderr)
+                if when == "changing the rate":
+                    self.assert_stopped(run(LIST, timeline, 60), reason)
+                else:
+                    self.assertEqual(when, "showing or exporting the event")
+                    exports = pathlib.Path(folder) / "exports"
+                    exports.mkdir()
+                    self.assert_stopped(run(CONVERT, timeline, exports), reason)
+
+    def assert_stopped(self, done, reason):
+        self.assertEqual(done.returncode, -signal.SIGABRT, done.stdout)
+        self.assertIn(f"clipvane: {reason}\n", done.stderr)
+
+
+class Everywhere(unittest.TestCase):
+    def test_there_are_documents(self):
+        self.assertIn(TREE / "docs" / "architecture.md", documents())
+
+    def test_every_link_leads_somewhere(self):
+        for document in documents():
+            for target in re.findall(r"\]\(([^)#:]+)\)", document.read_text(encoding="utf-8")):
+                with self.subTest(document=document.name, target=target):
+                    self.assertTrue((document.parent / target).exists())
+
+    def test_every_script_named_can_be_run(self):
+        for document in documents():
+            for script in re.findall(r"\bscripts/[a-z][a-z-]*", document.read_text(encoding="utf-8")):
+                with self.subTest(document=document.name, script=script):
+                    path = TREE / script
+                    self.assertTrue(path.is_file() and path.stat().st_mode & 0o111)
+
+    def test_the_newest_version_in_the_change_log_is_the_project_s(self):
+        self.assertEqual(re.search(r"^## \[(\d+\.\d+\.\d+)\] - \d{4}-\d\d-\d\d$",
+                                   text_of("CHANGELOG.md"), re.MULTILINE)[1], VERSION)
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1])
