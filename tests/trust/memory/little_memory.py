@@ -18,7 +18,7 @@ import subprocess
 import sys
 
 MEGABYTE = 1 << 20
-STEPS = 24
+STEPS = 16
 LACK = re.compile(r'alert: Could not open timeline \| (The file "large\.\w+" could not be read: Cannot allocate memory\.'
                   r'|There is not enough memory\.)\n')
 
