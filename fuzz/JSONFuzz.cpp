@@ -1,16 +1,46 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
-// The keyed form of an event: what is read is written and read again, whole.
+// The keyed form of an event: every field stands under its key, and what is read is written and
+// read again, whole.
+
+#include <algorithm>
+#include <nlohmann/json.hpp>
 
 #include "Events.h"
 #include "Target.h"
 #include "base/UTF8.h"
 #include "model/TimelineEventJSON.h"
 
+namespace {
+
+using namespace clipvane;
+using namespace clipvane::fuzz;
+
+void requireFields(const TimelineEvent& event, std::string_view json) {
+    const auto object = nlohmann::json::parse(json);
+    auto id = object.at("id").get<std::string>();
+    std::ranges::transform(id, id.begin(), [](char c) { return c >= 'a' ? char(c - 0x20) : c; });
+    require(event.id.text() == id, "the identifier is the one in the text");
+    const TimelineEvent expected{event.id,
+                                 object.at("eventNumber"),
+                                 object.at("clipName"),
+                                 object.at("reelID"),
+                                 object.at("sourceIn"),
+                                 object.at("sourceOut"),
+                                 object.at("recordIn"),
+                                 object.at("recordOut"),
+                                 object.at("format"),
+                                 object.at("track"),
+                                 object.at("comments"),
+                                 object.at("highlighted"),
+                                 object.at("rawText")};
+    require(sameFields(event, expected), "every field is the one in the text");
+}
+
+}  // namespace
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    using namespace clipvane;
-    using namespace clipvane::fuzz;
     const auto event = decodeJSON(textOf(data, size));
     if (!event) {
         const Error& error = event.error();
@@ -19,6 +49,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                 "a reason is UTF-8");
         return 0;
     }
+    requireFields(*event, textOf(data, size));
     const std::string json = encodeJSON(*event);
     const auto again = decodeJSON(json);
     require(again && again->id == event->id && sameFields(*again, *event),
