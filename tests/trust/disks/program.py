@@ -120,9 +120,9 @@ def timeline(path, events):
 
 
 @contextmanager
-def folder():
-    """A folder of its own on the disk, gone afterwards. Everybody may enter it."""
-    path = tempfile.mkdtemp(prefix="clipvane-trust-")
+def folder(above=None):
+    """A folder of its own, gone afterwards. Everybody may enter it."""
+    path = tempfile.mkdtemp(prefix="clipvane-trust-", dir=above)
     os.chmod(path, 0o755)
     try:
         yield path

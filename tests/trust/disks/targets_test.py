@@ -323,14 +323,16 @@ GROUPS = {
 def main():
     group = sys.argv[3]
     os.umask(0o022)
+    above = None
     if group != "any":
         own_mounts.enter(as_root=group == "others")
+        above = "/mnt"  # which is gone with all that is mounted below
     tally = Tally()
-    with folder() as programs:
+    with folder(above) as programs:
         # Where everybody can start it.
         program = Program(shutil.copy(sys.argv[1], programs))
         for scene in GROUPS[group]:
-            with folder() as scratch, folder() as path, tally.case(scene.__name__):
+            with folder(above) as scratch, folder(above) as path, tally.case(scene.__name__):
                 scene(Place(program, scratch, path, tally))
                 tally.count("scenes")
     tally.report()
