@@ -45,6 +45,7 @@ void dressApplication(QApplication& application) {
     application.setApplicationName("Clipvane");
     application.setDesktopFileName("clipvane");
     application.setWindowIcon(applicationIcon());
+    // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): it belongs to the application now.
     application.setStyle(new ClipvaneStyle);
     application.setPalette(darkPalette());
     application.setFont(systemFont(13));
