@@ -33,6 +33,14 @@ def blocks(text):
     return re.findall(r"^```([^\n]+)\n(.*?)^```$", text, re.MULTILINE | re.DOTALL)
 
 
+def anchors(document):
+    """What links to the headings of a document name."""
+    text = re.sub(r"^```.*?^```$", "", document.read_text(encoding="utf-8"),
+                  flags=re.MULTILINE | re.DOTALL)
+    return {re.sub(r"[^\w -]", "", heading.lower()).replace(" ", "-")
+            for heading in re.findall(r"^#+ (.*)$", text, re.MULTILINE)}
+
+
 def run(*command, cwd=None):
     return subprocess.run([str(part) for part in command], cwd=cwd, capture_output=True,
                           text=True, encoding="utf-8", check=False)
@@ -106,11 +114,10 @@ class Library(unittest.TestCase):
 
 class Security(unittest.TestCase):
     def test_every_input_named_stops_the_program_with_its_reason(self):
-        part = text_of("SECURITY.md").split("## What stops the program on purpose")[1]
-        rows = re.findall(r"^\| (EDL|XML) \| `(.*)` \| (.*) \| (.*) \|$", part.split("\n## ")[0],
-                          re.MULTILINE)
-        self.assertGreaterEqual(len(rows), 8)
-        for kind, content, when, reason in rows:
+        for line in self.table():
+            row = re.fullmatch(r"\| (EDL|XML) \| `(.*)` \| (.*) \| (.*) \|", line)
+            self.assertTrue(row, line)
+            kind, content, when, reason = row.groups()
             with self.subTest(content=content), tempfile.TemporaryDirectory() as folder:
                 timeline = pathlib.Path(folder) / f"hostile.{kind.lower()}"
                 timeline.write_text(content.replace(" ⏎ ", "\n") + "\n", encoding="utf-8")
@@ -127,6 +134,26 @@ class Security(unittest.TestCase):
                     exports.mkdir()
                     self.assert_stopped(run(CONVERT, timeline, exports), reason)
 
+    def test_every_reason_of_the_program_is_named(self):
+        reasons = {reason for file in TREE.glob("src/**/*") if file.is_file()
+                   for reason in re.findall(r'\bfatal\(\s*"([^"]*)"\)',
+                                            file.read_text(encoding="utf-8"))}
+        shown = {line.split(" | ")[-1].removesuffix(" |") for line in self.table()}
+        self.assertLessEqual(shown, reasons)
+        self.assertEqual({reason for reason in reasons - shown if f"`{reason}`" not in self.part()},
+                         set())
+
+    def part(self):
+        below = text_of("SECURITY.md").split("## What stops the program on purpose")[1]
+        return below.split("\n## ")[0]
+
+    def table(self):
+        """The lines of its table below the head."""
+        lines = [line for line in self.part().split("\n") if line.startswith("|")]
+        self.assertTrue(lines[1:] and lines[1].startswith("|---"), lines[:2])
+        self.assertTrue(lines[2:])
+        return lines[2:]
+
     def assert_stopped(self, done, reason):
         self.assertEqual(done.returncode, -signal.SIGABRT, done.stdout)
         self.assertIn(f"clipvane: {reason}\n", done.stderr)
@@ -138,9 +165,13 @@ class Everywhere(unittest.TestCase):
 
     def test_every_link_leads_somewhere(self):
         for document in documents():
-            for target in re.findall(r"\]\(([^)#:]+)\)", document.read_text(encoding="utf-8")):
+            for target in re.findall(r"\]\(([^):]+)\)", document.read_text(encoding="utf-8")):
                 with self.subTest(document=document.name, target=target):
-                    self.assertTrue((document.parent / target).exists())
+                    path, _, anchor = target.partition("#")
+                    file = document.parent / path if path else document
+                    self.assertTrue(file.exists())
+                    if anchor:
+                        self.assertIn(anchor, anchors(file))
 
     def test_every_script_named_can_be_run(self):
         for document in documents():
