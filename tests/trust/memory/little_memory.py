@@ -18,6 +18,7 @@ import subprocess
 import sys
 
 MEGABYTE = 1 << 20
+PLENTY = 512  # megabytes, to start with
 STEPS = 16
 LACK = re.compile(r'alert: Could not open timeline \| (The file "large\.\w+" could not be read: Cannot allocate memory\.'
                   r'|There is not enough memory\.)\n')
@@ -60,10 +61,11 @@ def least_to_start_with(program, folder):
     """The megabytes in which the program opens a file of one event."""
     with open(f"{folder}/small.edl", "w") as file:
         file.writelines(edl(1))
-    megabytes = 8
-    while "Loaded 1 events" not in run(program, f"{folder}/small.edl", f"{folder}/small.csv", megabytes).stdout:
-        megabytes += 4
-    return megabytes
+    for megabytes in range(8, PLENTY + 1, 4):
+        result = run(program, f"{folder}/small.edl", f"{folder}/small.csv", megabytes)
+        if "Loaded 1 events" in result.stdout:
+            return megabytes
+    sys.exit(f"FAILED: {PLENTY} MB are too little for one event\n{result.stdout}{result.stderr}")
 
 
 def main():
