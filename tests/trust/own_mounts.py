@@ -9,7 +9,7 @@ import subprocess
 import sys
 
 SKIPPED = 77  # the exit status of a test that cannot be done here
-SOMEBODY = 65533  # else
+SOMEBODY = 65533  # neither root nor NOBODY
 INSIDE = "CLIPVANE_INSIDE_A_NAME_SPACE"
 
 

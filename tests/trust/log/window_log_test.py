@@ -6,8 +6,9 @@ came to, and ends as ever.
 
     window_log_test.py CLIPVANE OUTPUT [all]
 
-Runs on a desktop of its own. The short form tries the states that cost others most in the past;
-"all" tries every state of log_states.
+Runs on a desktop of its own. The short form tries one state for each way in which a log can do
+harm: opening waits, the file is not the user's to write, writing fails, writing kills. "all" tries
+every state of log_states.
 """
 
 import os
