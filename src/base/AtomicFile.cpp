@@ -22,6 +22,7 @@ constexpr std::size_t copiedAtOnce = 0x10000;
 constexpr int mostLinks = 40;         // the kernel's own limit in following links
 constexpr int mostTries = 10;         // at a place that others take and leave all the time
 constexpr mode_t newFileMode = 0666;  // less the process's file mode mask
+constexpr mode_t ownerOnly = 0600;
 constexpr mode_t permissionBits = 07777;
 
 /// Zero or an errno value.
@@ -72,13 +73,21 @@ Result<std::optional<struct stat>> replacedFile(const std::filesystem::path& pla
     return status;
 }
 
+bool hasGroup(int file, gid_t group) {
+    struct stat status {};
+    return uninterrupted([&] { return ::fstat(file, &status); }) == 0 && status.st_gid == group;
+}
+
 /// Gives the open file the group and the permissions of the one that it is to replace, as far as
 /// the system lets it: not every file system has them, and the export does not fail for that.
 void keepPermissions(int file, const struct stat& replaced) {
     constexpr auto sameOwner = static_cast<uid_t>(-1);
-    [[maybe_unused]] const int group =
-        uninterrupted([&] { return ::fchown(file, sameOwner, replaced.st_gid); });
     mode_t mode = replaced.st_mode & permissionBits;
+    const auto keepGroup = [&] { return ::fchown(file, sameOwner, replaced.st_gid); };
+    if (uninterrupted(keepGroup) != 0 && !hasGroup(file, replaced.st_gid)) {
+        // Another group may do no more than everybody.
+        mode &= ~static_cast<mode_t>(S_ISGID | S_IRWXG) | (mode & S_IRWXO) << 3;
+    }
     // What somebody else's program may do in his name is not to be done in the new owner's.
     if (replaced.st_uid != ::geteuid()) mode &= ~static_cast<mode_t>(S_ISUID | S_ISGID);
     static_cast<void>(uninterrupted([&] { return ::fchmod(file, mode); }));
@@ -151,8 +160,9 @@ Result<AtomicFile> AtomicFile::create(const std::filesystem::path& destination) 
 
     const auto replaced = replacedFile(file.place, destination);
     if (!replaced) return tl::unexpected(replaced.error());
-    // Whoever may not read the old content may not read the new one while it is written either.
-    const mode_t mode = *replaced ? (*replaced)->st_mode & newFileMode : newFileMode;
+    // Whoever may not read the old content may not read the new one while it is written either; and
+    // the group may be another one until it is known better.
+    const mode_t mode = *replaced ? (*replaced)->st_mode & ownerOnly : newFileMode;
     if (const int code = file.open(mode)) return file.failed(code);
     return file;
 }

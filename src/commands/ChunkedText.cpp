@@ -5,6 +5,7 @@
 
 #include <cerrno>
 #include <new>
+#include <stdexcept>
 #include <utility>
 
 #include "base/AtomicFile.h"
@@ -27,6 +28,8 @@ Result<void> writeText(const ChunkedText& text, const std::filesystem::path& url
     if (!written) return written;
     return file->commit();
 } catch (const std::bad_alloc&) {
+    return tl::unexpected(fileError("written", url, ENOMEM));
+} catch (const std::length_error&) {
     return tl::unexpected(fileError("written", url, ENOMEM));
 }
 

@@ -33,7 +33,7 @@ std::optional<double> rateInTitle(std::string title) {
 }  // namespace
 
 template <class Command>
-void DocumentCommands::withMemory(const Alert& otherwise, Command command) {
+bool DocumentCommands::withMemory(const Alert& otherwise, Command command) {
     bool isOut = false;
     try {
         command();
@@ -42,12 +42,13 @@ void DocumentCommands::withMemory(const Alert& otherwise, Command command) {
     } catch (const std::length_error&) {
         isOut = true;
     }
-    if (!isOut) return;
+    if (!isOut) return true;
     try {
         runAlert(otherwise);
     } catch (const std::bad_alloc&) {
         // Not even the alert fits. The document is whole, which matters more than to say so.
     }
+    return false;
 }
 
 void DocumentCommands::openTimeline() {
@@ -83,7 +84,7 @@ void DocumentCommands::openTimeline() {
 }
 
 void DocumentCommands::fpsChanged() {
-    withMemory(noMemory.toChange, [&] {
+    const bool isDone = withMemory(noMemory.toChange, [&] {
         const auto title = selectedFPSTitle();
         if (!title) return;
         const auto fps = rateInTitle(*title);
@@ -106,6 +107,7 @@ void DocumentCommands::fpsChanged() {
             refreshDetails();
         });
     });
+    if (!isDone) withMemory(noMemory.toShow, [&] { syncFPSPopup(); });
 }
 
 void DocumentCommands::saveCurrentComment() {

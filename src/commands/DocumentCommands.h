@@ -58,9 +58,10 @@ class DocumentCommands {
   private:
     using Writer = std::function<Result<void>(const std::filesystem::path& url)>;
 
-    /// Runs `command`, or shows the alert `otherwise` when there is not memory enough for it.
+    /// Runs `command`, and shows the alert `otherwise` when there is not memory enough for it. True
+    /// if there was.
     template <class Command>
-    void withMemory(const Alert& otherwise, Command command);
+    bool withMemory(const Alert& otherwise, Command command);
 
     void storeComment();
     void saveFile(const std::string& defaultName, const Writer& writer);

@@ -91,13 +91,13 @@ TEST_F(ForeignFile, Group_IsKept) {
     EXPECT_EQ(modeOf(folder / "file"), 0640U);
 }
 
-TEST_F(ForeignFile, GroupThatTheUserIsNotIn_DoesNotStopTheExport) {
+TEST_F(ForeignFile, GroupThatTheUserIsNotIn_IsLeftToEverybodysRights) {
     std::filesystem::permissions(folder.path(), std::filesystem::perms{0777});
     makeFile(0, 65533, 0664);
     const WithoutPrivileges ordinaryUser;
     EXPECT_TRUE(writeFileAtomically(folder / "file", "new"));
     EXPECT_EQ(contentOf(folder / "file"), "new");
-    EXPECT_EQ(modeOf(folder / "file"), 0664U);
+    EXPECT_EQ(modeOf(folder / "file"), 0644U);
 }
 
 TEST_F(ForeignFile, RightsThatGoWithTheOwner_DoNotPassToANewOne) {

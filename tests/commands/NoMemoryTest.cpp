@@ -102,6 +102,12 @@ INSTANTIATE_TEST_SUITE_P(
         KeptRow{"ExportEDL", &DocumentCommands::exportEDL, Operation::work, "Export failed"}),
     RowName());
 
+TEST_F(NoMemory, RateChange_PopUpShowsTheRateThatIsKept) {
+    commands.poor = Operation::work;
+    commands.fpsChanged();
+    EXPECT_EQ(commands.calls.back(), "pop-up: 25 fps, File");
+}
+
 struct DoneRow {
     std::string name;
     Command command;

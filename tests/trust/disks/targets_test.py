@@ -267,6 +267,18 @@ def shared_group(place):
     check(os.stat(place / "team/cut.csv").st_gid == SOMEBODY, "the group has changed")
 
 
+def group_of_others(place):
+    """Where the group cannot be kept, another one gets no more than everybody had."""
+    os.mkdir(place / "theirs")
+    os.chmod(place / "theirs", 0o777)
+    for mode, kept in ((0o660, 0o600), (0o640, 0o600), (0o664, 0o644), (0o2755, 0o755)):
+        path = place / f"theirs/{mode:o}.csv"
+        put(path)
+        os.chown(path, NOBODY, SOMEBODY)
+        os.chmod(path, mode)
+        place.written(path, mode=kept, **AS_NOBODY)
+
+
 def device(place):
     """A device of the test's own, in its own file system: the one that takes all."""
     path = place / "devices"
@@ -316,7 +328,7 @@ GROUPS = {
     "mounts": (small_file_system, no_more_files, read_only_mount, a_file_that_is_a_mount,
                another_file_system_by_a_link),
     "others": (read_only_folder, file_of_another_owner, sticky_folder, read_only_file, shared_group,
-               device, immutable),
+               group_of_others, device, immutable),
 }
 
 
