@@ -180,6 +180,16 @@ class Everywhere(unittest.TestCase):
                     path = TREE / script
                     self.assertTrue(path.is_file() and path.stat().st_mode & 0o111)
 
+    def test_every_script_is_named_where_contributors_read(self):
+        read = "".join(document.read_text(encoding="utf-8") for document in documents()
+                       if document.name in ("README.md", "CONTRIBUTING.md")
+                       or TREE / "docs" in document.parents)
+        named = set(re.findall(r"\bscripts/[a-z][a-z-]*", read))
+        scripts = {f"scripts/{file.name}" for file in TREE.glob("scripts/*")
+                   if file.stat().st_mode & 0o111}
+        self.assertGreater(len(scripts), 0)
+        self.assertEqual(scripts - named, set())
+
     def test_the_newest_version_in_the_change_log_is_the_project_s(self):
         self.assertEqual(re.search(r"^## \[(\d+\.\d+\.\d+)\] - \d{4}-\d\d-\d\d$",
                                    text_of("CHANGELOG.md"), re.MULTILINE)[1], VERSION)
