@@ -61,18 +61,6 @@ CodePoint lastCodePoint(std::string_view text) {
     return {static_cast<char32_t>(codePoint), tail - static_cast<std::size_t>(position)};
 }
 
-void appendUTF8(std::string& text, char32_t codePoint) {
-    std::uint8_t bytes[longestSequence];
-    std::int32_t length = 0;
-    UBool failed = false;
-    U8_APPEND(bytes, length, longestSequence, static_cast<std::uint32_t>(codePoint), failed);
-    if (failed) {
-        text += replacementCharacter;
-    } else {
-        text.append(reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(length));
-    }
-}
-
 bool isASCII(std::string_view text) {
     return asciiPrefix(text) == text.size();
 }

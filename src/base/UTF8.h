@@ -29,8 +29,6 @@ inline CodePoint firstCodePoint(std::string_view text) {
 CodePoint lastCodePoint(std::string_view text);
 
 /// Appends `codePoint`, or U+FFFD for a surrogate or what lies above U+10FFFF.
-void appendUTF8(std::string& text, char32_t codePoint);
-
 /// True when `text` holds bytes below 0x80 only.
 bool isASCII(std::string_view text);
 

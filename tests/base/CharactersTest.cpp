@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "base/UTF8.h"
+#include "support/AppendUTF8.h"
 #include "support/RowName.h"
 
 namespace clipvane::test {

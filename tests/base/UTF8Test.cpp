@@ -9,6 +9,7 @@
 #include <random>
 #include <vector>
 
+#include "support/AppendUTF8.h"
 #include "support/RowName.h"
 
 namespace clipvane::test {
@@ -73,13 +74,6 @@ TEST(UTF8, EveryCodePoint_IsReadBackFromBothEnds) {
         ASSERT_EQ(validUTF8Prefix(text), text.size());
         ASSERT_EQ(isASCII(text), expected < 0x80);
     }
-}
-
-TEST(AppendUTF8, BeyondUnicode_BecomesTheReplacementCharacter) {
-    std::string text;
-    appendUTF8(text, lastOfUnicode + 1);
-    appendUTF8(text, 0xFFFFFFFF);
-    EXPECT_EQ(text, "\uFFFD\uFFFD");
 }
 
 TEST(ValidUTF8Prefix, EndsBeforeTheFirstBrokenSequence) {

@@ -3,10 +3,10 @@
 
 #include <gtest/gtest.h>
 
-#include "base/UTF8.h"
 #include "import/ClipNameComment.h"
 #include "import/ClipNameCommentGenerator.h"
 #include "judges/EDLJudge.h"
+#include "support/AppendUTF8.h"
 #include "support/Scale.h"
 
 namespace clipvane::test {

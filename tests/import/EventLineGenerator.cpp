@@ -8,6 +8,7 @@
 
 #include "base/UTF8.h"
 #include "import/GeneratedCharacters.h"
+#include "support/AppendUTF8.h"
 
 namespace clipvane::test {
 namespace {

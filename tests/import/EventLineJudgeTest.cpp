@@ -5,10 +5,10 @@
 
 #include <array>
 
-#include "base/UTF8.h"
 #include "import/EventLine.h"
 #include "import/EventLineGenerator.h"
 #include "judges/EDLJudge.h"
+#include "support/AppendUTF8.h"
 #include "support/Scale.h"
 
 namespace clipvane::test {

@@ -3,10 +3,10 @@
 
 #include <gtest/gtest.h>
 
-#include "base/UTF8.h"
 #include "import/FrameRateGenerator.h"
 #include "import/TimelineParser.h"
 #include "judges/FrameRateJudge.h"
+#include "support/AppendUTF8.h"
 #include "support/Scale.h"
 
 namespace clipvane::test {

@@ -8,6 +8,7 @@
 #include <array>
 
 #include "base/UTF8.h"
+#include "support/AppendUTF8.h"
 
 namespace clipvane::test {
 namespace {

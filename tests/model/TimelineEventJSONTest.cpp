@@ -12,6 +12,7 @@
 
 #include "base/UTF8.h"
 #include "model/SampleEvent.h"
+#include "support/AppendUTF8.h"
 
 namespace clipvane::test {
 namespace {
