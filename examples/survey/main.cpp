@@ -66,7 +66,7 @@ int main(int argc, char** argv) {
         ++totals.failures;
     });
     if (files.empty()) {
-        std::fputs("survey: no timelines found\n", stderr);
+        if (totals.failures == 0) std::fputs("survey: no timelines found\n", stderr);
         return 1;
     }
 
