@@ -28,7 +28,6 @@ inline CodePoint firstCodePoint(std::string_view text) {
 /// The last code point of `text`, which must not be empty, by the same rule.
 CodePoint lastCodePoint(std::string_view text);
 
-/// Appends `codePoint`, or U+FFFD for a surrogate or what lies above U+10FFFF.
 /// True when `text` holds bytes below 0x80 only.
 bool isASCII(std::string_view text);
 
