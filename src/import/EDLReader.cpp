@@ -6,11 +6,12 @@
 #include <utility>
 
 #include "base/Characters.h"
+#include "base/UUID.h"
 #include "import/ClipNameComment.h"
+#include "import/EventLine.h"
 #include "import/EventReservation.h"
 #include "import/Lines.h"
 #include "import/Scan.h"
-#include "import/TimelineParser.h"
 
 namespace clipvane {
 namespace {
@@ -35,16 +36,34 @@ std::string joinLines(const std::vector<std::string_view>& lines) {
     return joined;
 }
 
-}  // namespace
+/// Collects the events of an EDL from its lines. Views into the text are kept until `finish`.
+class Reader {
+  public:
+    explicit Reader(std::string_view text) : text(text) {}
 
-std::vector<TimelineEvent> TimelineParser::parseEDL(std::string_view text) {
-    EDLReader reader(text);
-    Lines lines(text);
-    while (const auto line = lines.next()) reader.readLine(*line);
-    return reader.finish();
-}
+    /// Takes an event line, or a comment that belongs to the event before it; skips any other.
+    void readLine(std::string_view line);
 
-void EDLReader::readLine(std::string_view line) {
+    /// The events, in the order of their lines.
+    std::vector<TimelineEvent> finish();
+
+  private:
+    /// The event whose comments are being read.
+    struct CurrentEvent {
+        EventLine columns;
+        std::string_view clipName;            ///< from a clip-name comment, else empty
+        std::vector<std::string_view> lines;  ///< the event line and its comments
+    };
+
+    void completeCurrentEvent();
+
+    std::string_view text;
+    std::vector<TimelineEvent> events;
+    CurrentEvent current;  ///< without lines before the first event
+    UUIDGenerator identifiers;
+};
+
+void Reader::readLine(std::string_view line) {
     if (const auto columns = matchEventLine(line)) {
         completeCurrentEvent();
         current.columns = *columns;
@@ -60,12 +79,12 @@ void EDLReader::readLine(std::string_view line) {
     }
 }
 
-std::vector<TimelineEvent> EDLReader::finish() {
+std::vector<TimelineEvent> Reader::finish() {
     completeCurrentEvent();
     return std::exchange(events, {});
 }
 
-void EDLReader::completeCurrentEvent() {
+void Reader::completeCurrentEvent() {
     if (current.lines.empty()) return;
     const EventLine& columns = current.columns;
     TimelineEvent& event = events.emplace_back();
@@ -93,6 +112,15 @@ void EDLReader::completeCurrentEvent() {
     }
     current.clipName = {};
     current.lines.clear();
+}
+
+}  // namespace
+
+std::vector<TimelineEvent> readEDL(std::string_view text) {
+    Reader reader(text);
+    Lines lines(text);
+    while (const auto line = lines.next()) reader.readLine(*line);
+    return reader.finish();
 }
 
 }  // namespace clipvane

@@ -1,13 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
+#include "import/FrameRateDetection.h"
+
 #include <array>
 #include <cstdint>
 #include <cstring>
 
 #include "base/Characters.h"
 #include "import/FrameRateText.h"
-#include "import/TimelineParser.h"
 
 namespace clipvane {
 namespace {
@@ -73,7 +74,7 @@ struct FirstMatches {
 
 }  // namespace
 
-std::optional<double> TimelineParser::detectFPS(std::string_view in) {
+std::optional<double> detectFPS(std::string_view in) {
     FirstMatches matches;
     std::size_t position = 0;
     while (position < in.size() && !matches.decided()) {

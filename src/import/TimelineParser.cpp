@@ -12,6 +12,9 @@
 #include "base/Characters.h"
 #include "base/File.h"
 #include "base/UTF8.h"
+#include "import/EDLReader.h"
+#include "import/FrameRateDetection.h"
+#include "import/XMLReader.h"
 #include "model/FrameRateSource.h"
 
 namespace clipvane {
@@ -46,15 +49,15 @@ TimelineParseResult resultAtRate(const std::optional<double>& detectedFPS) {
 }
 
 TimelineParseResult parseEDLText(std::string_view text) {
-    TimelineParseResult result = resultAtRate(TimelineParser::detectFPS(text));
-    result.events = TimelineParser::parseEDL(text);
+    TimelineParseResult result = resultAtRate(detectFPS(text));
+    result.events = readEDL(text);
     return result;
 }
 
 TimelineParseResult parseXMLData(std::string_view data) {
     // The rate is looked for in the bytes as UTF-8, whatever the document's encoding.
-    TimelineParseResult result = resultAtRate(TimelineParser::detectFPS(data));
-    result.events = TimelineParser::parseXML(data, result.fps);
+    TimelineParseResult result = resultAtRate(detectFPS(data));
+    result.events = readXML(data, result.fps);
     return result;
 }
 
@@ -79,6 +82,18 @@ Result<TimelineParseResult> TimelineParser::parse(const std::filesystem::path& u
     return tl::unexpected(fileError("read", url, ENOMEM));
 } catch (const std::length_error&) {
     return tl::unexpected(fileError("read", url, ENOMEM));
+}
+
+std::optional<double> TimelineParser::detectFPS(std::string_view in) {
+    return clipvane::detectFPS(in);
+}
+
+std::vector<TimelineEvent> TimelineParser::parseEDL(std::string_view text) {
+    return readEDL(text);
+}
+
+std::vector<TimelineEvent> TimelineParser::parseXML(std::string_view data, double fps) {
+    return readXML(data, fps);
 }
 
 }  // namespace clipvane

@@ -27,17 +27,11 @@ class TimelineParser {
     /// read, and with domain "Clipvane", code 10, for any other extension.
     static Result<TimelineParseResult> parse(const std::filesystem::path& url);
 
-    /// The frame rate, in frames per second, that a file's whole text (UTF-8) names, as written:
-    /// neither rounded nor range-checked, but above zero or not a number. Nothing when it names
-    /// none.
+    // What `parse` is made of, for texts in memory. `in` and `text` are UTF-8, `data` is a file's
+    // raw bytes, rates are frames per second; `import/FrameRateDetection.h`, `import/EDLReader.h`
+    // and `import/XMLReader.h` have the contracts.
     static std::optional<double> detectFPS(std::string_view in);
-
-    /// The events of a CMX-style EDL, in the order of their lines. `text` is UTF-8.
     static std::vector<TimelineEvent> parseEDL(std::string_view text);
-
-    /// The events of an XMEML, FCPXML or generic XML document, in document order, with times at
-    /// `fps` frames per second. `data` is the file's raw bytes, in any encoding that the document
-    /// declares. Malformed XML yields the events before the error.
     static std::vector<TimelineEvent> parseXML(std::string_view data, double fps);
 };
 

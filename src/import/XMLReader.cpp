@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
+#include "import/XMLReader.h"
+
 // Expat declares its guards against expanding entities only to those who know that it has them.
 #define XML_DTD
 #include <expat.h>
@@ -13,7 +15,6 @@
 
 #include "import/CommonTimelineXMLDelegate.h"
 #include "import/EventReservation.h"
-#include "import/TimelineParser.h"
 #include "import/XMLEncoding.h"
 
 namespace clipvane {
@@ -161,7 +162,7 @@ class ParserRun {
 
 }  // namespace
 
-std::vector<TimelineEvent> TimelineParser::parseXML(std::string_view data, double fps) {
+std::vector<TimelineEvent> readXML(std::string_view data, double fps) {
     CommonTimelineXMLDelegate delegate(fps);
     const XMLBytes bytes = readableXML(data);
     ParserRun(delegate, bytes.encoding).parse(bytes.of(data));
