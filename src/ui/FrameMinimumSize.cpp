@@ -16,8 +16,7 @@ FrameMinimumSize::FrameMinimumSize(QWidget* window, const QSize& minimum)
 }
 
 void FrameMinimumSize::apply() {
-    const QMargins frame =
-        window->windowHandle() ? window->windowHandle()->frameMargins() : QMargins();
+    if (const QWindow* handle = window->windowHandle()) frame = frame | handle->frameMargins();
     window->setMinimumSize(minimum.shrunkBy(frame));
 }
 

@@ -14,15 +14,16 @@ import access
 import expected
 from desk import Desk, run_test
 from hands import active_title, click_at, press, type_text, xdotool
-from waiting import comes, wait_equal, wait_for
+from waiting import comes, stays, wait_equal, wait_for
 
 PIER = Path(__file__).resolve().parent / "timelines" / "pier.edl"
 
 COMPOSITOR = "Weston Compositor - screen0"
 
-# The toolkit draws the frames: a border of 3, a title bar of 30, its close button on the right.
+# The toolkit draws the frames: a border of 3, a title bar of 30, its buttons on the right.
 CONTENT, FRAME = (1440, 860), (6, 33)
 CLOSE_BUTTON = 18, 16  # from the top right corner
+MAXIMIZE_BUTTON = 41, 16
 
 
 class WaylandDesk(Desk):
@@ -51,12 +52,12 @@ class WaylandDesk(Desk):
         raise AssertionError(f"the dialog {title!r} does not take {path}")
 
 
-def window_in_compositor():
-    """Left, top, width and height of the main window, frame included, as the compositor has it
-    under the program's title and app id."""
+def window_in_compositor(title):
+    """Left, top, width and height of a window, frame included, as the compositor has it under its
+    title and the program's app id."""
     graph = subprocess.run(["timeout", "10", "weston-debug", "scene-graph"],
                            capture_output=True, text=True).stdout
-    found = re.search(r"top-level window 'Clipvane' of clipvane,.*\n"
+    found = re.search(rf"top-level window '{title}' of clipvane,.*\n"
                       r"\s*position: \((-?\d+), (-?\d+)\) -> \((-?\d+), (-?\d+)\)", graph)
     if found is None:
         return None
@@ -64,8 +65,9 @@ def window_in_compositor():
     return left, top, right - left, bottom - top
 
 
-def main_window():
-    return wait_for(window_in_compositor, "a window 'Clipvane' with the app id 'clipvane'")
+def window(title="Clipvane"):
+    return wait_for(lambda: window_in_compositor(title),
+                    f"a window {title!r} with the app id 'clipvane'")
 
 
 def on_screen(x, y):
@@ -103,21 +105,26 @@ def drag(start, end):
     xdotool("mouseup", 1)
 
 
-def shrink():
+def shrink(title, least):
     """Drags the bottom right corner to the top left, again if the compositor missed it."""
     for _ in range(3):
-        left, top, width, height = main_window()
+        left, top, width, height = window(title)
         drag(on_screen(left + width - 2, top + height - 2), on_screen(left + 100, top + 100))
-        if comes(lambda: main_window()[2:] != (width, height), patience=3):
+        if comes(lambda: window(title)[2:] != (width, height), patience=3):
             break
-    wait_equal(lambda: main_window()[2:], (1180, 720), "the window's size")
+    wait_equal(lambda: window(title)[2:], least, "the window's size")
+
+
+def press_frame_button(title, button):
+    left, top, width, _ = window(title)
+    click_at(*on_screen(left + width - button[0], top + button[1]))
 
 
 def wayland(desk):
     enter_compositor()
     with desk.step("start: the compositor knows the window by the desktop entry's name"):
         desk.start(command=["env", "-u", "DISPLAY", desk.program])
-        wait_equal(lambda: main_window()[2:], tuple(a + b for a, b in zip(CONTENT, FRAME)),
+        wait_equal(lambda: window()[2:], tuple(a + b for a, b in zip(CONTENT, FRAME)),
                    "the window's size")
         desk.picture("started")
     with desk.step("open a timeline through the dialog, by keys"):
@@ -136,11 +143,28 @@ def wayland(desk):
         press("End")
         desk.await_selection(4)
     with desk.step("drag the window's corner: never below 1180 by 720 with its frame"):
-        shrink()
+        shrink("Clipvane", (1180, 720))
         desk.picture("least")
+    with desk.step("maximized and back, it is at its least again"):
+        press_frame_button("Clipvane", MAXIMIZE_BUTTON)
+        wait_for(lambda: window()[2:] > (1180, 720), "the window to be maximized")
+        desk.picture("maximized")
+        press_frame_button("Clipvane", MAXIMIZE_BUTTON)
+        wait_equal(lambda: window()[2:], (1180, 720), "the window's size")
+    with desk.step("the help, closed at its least, comes back at its least"):
+        desk.find("push button", "Help").queryAction().doAction(0)
+        desk.await_window("Clipvane Help")
+        shrink("Clipvane Help", (520, 420))
+        press_frame_button("Clipvane Help", CLOSE_BUTTON)
+        desk.await_window("Clipvane")
+        desk.find("push button", "Help").queryAction().doAction(0)
+        desk.await_window("Clipvane Help")
+        wait_equal(lambda: window("Clipvane Help")[2:], (520, 420), "the help's size")
+        stays(lambda: window("Clipvane Help")[2:] == (520, 420), "the help's size")
+        press_frame_button("Clipvane Help", CLOSE_BUTTON)
+        desk.await_window("Clipvane")
     with desk.step("its close button ends it, with status 0 and without a word"):
-        left, top, width, _ = main_window()
-        click_at(*on_screen(left + width - CLOSE_BUTTON[0], top + CLOSE_BUTTON[1]))
+        press_frame_button("Clipvane", CLOSE_BUTTON)
         desk.await_end()
 
 
