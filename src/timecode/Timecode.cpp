@@ -88,8 +88,11 @@ std::string timecode(std::int64_t fromFrames, double fps, bool usesDropFrameSepa
     return text;
 }
 
+// Up to 99 minutes, 99 seconds and 99 frames at one frame a second stay below two hours.
 TimecodeConversion::TimecodeConversion(double from, double to)
-    : fromBase(frameBase(from)), toBase(frameBase(to)) {}
+    : fromBase(frameBase(from)),
+      toBase(frameBase(to)),
+      hoursThatFit(fromBase <= 100 && toBase <= 100 ? 99 : 0) {}
 
 void TimecodeConversion::makeRoom(std::string& timecode) const {
     // Two digits a field take any usual rate's frames, and the hours grow by one at most.
@@ -116,6 +119,12 @@ bool TimecodeConversion::convert(std::string& timecode) const {
     appendTimecode(timecode, convertedFrames(*fields, fromBase, toBase), toBase,
                    isDropFrame ? dropFrameSeparator : ':');
     return true;
+}
+
+PackedTimecode TimecodeConversion::convert(PackedTimecode timecode) const {
+    const double count = timecode.count(static_cast<std::uint32_t>(fromBase));
+    const double converted = count / static_cast<double>(fromBase) * static_cast<double>(toBase);
+    return PackedTimecode::ofFields(fieldsOf(roundToInteger(converted), toBase));
 }
 
 std::string convertTimecode(std::string_view timecode, double from, double to) {

@@ -8,6 +8,8 @@
 #include <string>
 #include <string_view>
 
+#include "timecode/PackedTimecode.h"
+
 namespace clipvane {
 
 // Timecode arithmetic. All counting is non-drop-frame on the frame base of a rate (`frameBase`):
@@ -39,9 +41,17 @@ class TimecodeConversion {
     /// Converts `timecode` in place and tells whether it was one.
     bool convert(std::string& timecode) const;
 
+    /// Whether the timecode can be converted packed: the rates are usual ones, and the result has
+    /// two digits a field.
+    bool fits(PackedTimecode timecode) const { return timecode.hours() < hoursThatFit; }
+
+    /// The converted timecode, which must fit.
+    PackedTimecode convert(PackedTimecode timecode) const;
+
   private:
     std::int64_t fromBase;
     std::int64_t toBase;
+    std::uint32_t hoursThatFit;  ///< none with unusual rates
 };
 
 /// The time between two timecodes, such as "00:00:10:00 (250 frames)"; never below zero. "-" when

@@ -81,20 +81,11 @@ constexpr bool fitsTwoDigitFields(std::int64_t count, std::int64_t base) {
     return count >= 0 && base <= hundred && count < hundred * 3600 * base;
 }
 
-/// Writes the timecode of `count` frames, which must fit, over `text`, with `separator` before the
-/// frames.
-inline void writeTwoDigitFields(std::span<char, twoDigitLength> text, std::int64_t count,
-                                std::int64_t base, char separator) {
-    // For what fits, 32 bits are enough, and dividing them is several times as fast.
-    const auto total = static_cast<std::uint32_t>(count);
-    const auto divisor = static_cast<std::uint32_t>(base);
-    const std::uint32_t seconds = total / divisor;
-    const std::uint32_t minutes = seconds / 60;
-    // All four fields are split into digits at once, each in 16 bits. Below 100, a tenth is
-    // 103/1024.
-    const std::uint64_t fields = std::uint64_t{minutes / 60} | std::uint64_t{minutes % 60} << 16 |
-                                 std::uint64_t{seconds % 60} << 32 |
-                                 std::uint64_t{total % divisor} << 48;
+/// Writes a timecode over `text`, with `separator` before the frames. `fields` holds four numbers
+/// below 100 in 16 bits each, the hours in the lowest.
+inline void writeFields(std::span<char, twoDigitLength> text, std::uint64_t fields,
+                        char separator) {
+    // All four are split into digits at once. Below 100, a tenth is 103/1024.
     const std::uint64_t tens = fields * 103 >> 10 & 0x000F'000F'000F'000F;
     const std::uint64_t digits = (tens | (fields - tens * 10) << 8) + 0x3030'3030'3030'3030;
     char* const to = text.data();
@@ -105,6 +96,24 @@ inline void writeTwoDigitFields(std::span<char, twoDigitLength> text, std::int64
     to[2] = ':';
     to[5] = ':';
     to[8] = separator;
+}
+
+/// The fields of the timecode of `count` frames, which must fit, as `writeFields` takes them.
+inline std::uint64_t fieldsOf(std::int64_t count, std::int64_t base) {
+    // For what fits, 32 bits are enough, and dividing them is several times as fast.
+    const auto total = static_cast<std::uint32_t>(count);
+    const auto divisor = static_cast<std::uint32_t>(base);
+    const std::uint32_t seconds = total / divisor;
+    const std::uint32_t minutes = seconds / 60;
+    return std::uint64_t{minutes / 60} | std::uint64_t{minutes % 60} << 16 |
+           std::uint64_t{seconds % 60} << 32 | std::uint64_t{total % divisor} << 48;
+}
+
+/// Writes the timecode of `count` frames, which must fit, over `text`, with `separator` before the
+/// frames.
+inline void writeTwoDigitFields(std::span<char, twoDigitLength> text, std::int64_t count,
+                                std::int64_t base, char separator) {
+    writeFields(text, fieldsOf(count, base), separator);
 }
 
 }  // namespace clipvane
