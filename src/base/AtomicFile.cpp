@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <cstdio>
 #include <optional>
 
 #include "base/UUID.h"
@@ -132,12 +133,14 @@ std::string procLink(int descriptor) {
 
 }  // namespace
 
-AtomicFile::AtomicFile(std::filesystem::path destination, std::filesystem::path place)
-    : destination(std::move(destination)), place(std::move(place)) {}
+AtomicFile::AtomicFile(std::filesystem::path destination, std::filesystem::path place,
+                       Existing existing)
+    : destination(std::move(destination)), place(std::move(place)), existing(existing) {}
 
 AtomicFile::AtomicFile(AtomicFile&& other) noexcept
     : destination(std::move(other.destination)),
       place(std::move(other.place)),
+      existing(other.existing),
       file(std::move(other.file)),
       temporary(std::move(other.temporary)) {
     other.temporary.clear();
@@ -152,14 +155,15 @@ tl::unexpected<Error> AtomicFile::failed(int code) const {
     return tl::unexpected(fileError("written", destination, code));
 }
 
-Result<AtomicFile> AtomicFile::create(const std::filesystem::path& destination) {
+Result<AtomicFile> AtomicFile::create(const std::filesystem::path& destination, Existing existing) {
     std::filesystem::path place = destination;
     const int linkCode = followLinks(place);
-    AtomicFile file(destination, std::move(place));
+    AtomicFile file(destination, std::move(place), existing);
     if (linkCode != 0) return file.failed(linkCode);
 
     const auto replaced = replacedFile(file.place, destination);
     if (!replaced) return tl::unexpected(replaced.error());
+    if (*replaced && existing == Existing::keep) return file.failed(EEXIST);
     // Whoever may not read the old content may not read the new one while it is written either; and
     // the group may be another one until it is known better.
     const mode_t mode = *replaced ? (*replaced)->st_mode & ownerOnly : newFileMode;
@@ -221,6 +225,7 @@ Result<void> AtomicFile::takePlace() {
         // Asked again: somebody may have put something else there meanwhile.
         const auto replaced = replacedFile(place, destination);
         if (!replaced) return tl::unexpected(replaced.error());
+        if (*replaced && existing == Existing::keep) return failed(EEXIST);
         if (*replaced) keepPermissions(file.number(), **replaced);
         if (uninterrupted([&] { return ::fsync(file.number()); }) != 0) return failed(errno);
 
@@ -237,12 +242,30 @@ Result<void> AtomicFile::takePlace() {
             temporary = std::move(name);
         }
         if (const int code = file.close()) return failed(code);
-        const auto replace = [&] { return ::rename(temporary.c_str(), place.c_str()); };
-        if (uninterrupted(replace) != 0) return failed(errno);
+        if (const int code = rename()) return failed(code);
         temporary.clear();
         return {};
     }
     return failed(EEXIST);
+}
+
+/// Gives the content its place. Zero or an errno value.
+int AtomicFile::rename() const {
+    if (existing == Existing::replace) {
+        const auto replace = [&] { return ::rename(temporary.c_str(), place.c_str()); };
+        return uninterrupted(replace) == 0 ? 0 : errno;
+    }
+    const auto keep = [&] {
+        return ::renameat2(AT_FDCWD, temporary.c_str(), AT_FDCWD, place.c_str(), RENAME_NOREPLACE);
+    };
+    if (uninterrupted(keep) == 0) return 0;
+    if (errno != EINVAL && errno != ENOSYS) return errno;
+    // Not every file system can refuse to replace in renaming; in giving a second name, all can.
+    const auto link = [&] { return ::link(temporary.c_str(), place.c_str()); };
+    if (uninterrupted(link) != 0) return errno;
+    // Whether the first name goes or not: the content is in its place.
+    static_cast<void>(uninterrupted([&] { return ::unlink(temporary.c_str()); }));
+    return 0;
 }
 
 int AtomicFile::linkAt(const std::filesystem::path& name) const {

@@ -28,8 +28,15 @@ namespace clipvane {
 ///     return file->commit();
 class AtomicFile {
   public:
+    /// What becomes of a file that is at the destination already.
+    enum class Existing {
+        replace,
+        keep,  ///< `create` fails, or `commit` if the file came later
+    };
+
     /// This, `write` and `commit` fail with the system's error about `destination`.
-    static Result<AtomicFile> create(const std::filesystem::path& destination);
+    static Result<AtomicFile> create(const std::filesystem::path& destination,
+                                     Existing existing = Existing::replace);
 
     AtomicFile(AtomicFile&& other) noexcept;
     AtomicFile& operator=(AtomicFile&&) = delete;
@@ -41,12 +48,13 @@ class AtomicFile {
     Result<void> commit();
 
   private:
-    AtomicFile(std::filesystem::path destination, std::filesystem::path place);
+    AtomicFile(std::filesystem::path destination, std::filesystem::path place, Existing existing);
 
     int open(mode_t mode);
     int openNamed(mode_t mode);
     int moveToNamed();
     Result<void> takePlace();
+    int rename() const;
     int linkAt(const std::filesystem::path& name) const;
     std::filesystem::path folder() const;
     std::filesystem::path hiddenName() const;
@@ -54,6 +62,7 @@ class AtomicFile {
 
     std::filesystem::path destination;  ///< as the caller named it
     std::filesystem::path place;        ///< the same with its links resolved
+    Existing existing;
     Descriptor file;
     std::filesystem::path temporary;  ///< the content's present name; empty while it has none
 };

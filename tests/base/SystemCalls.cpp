@@ -173,6 +173,14 @@ int __wrap_rename(const char* from, const char* to) {
     return isRefused(SystemCall::rename) ? -1 : __real_rename(from, to);
 }
 
+int __real_renameat2(int fromFolder, const char* from, int toFolder, const char* to,
+                     unsigned flags);
+int __wrap_renameat2(int fromFolder, const char* from, int toFolder, const char* to,
+                     unsigned flags) {
+    if (isRefused(SystemCall::renameat2)) return -1;
+    return __real_renameat2(fromFolder, from, toFolder, to, flags);
+}
+
 int __real_unlink(const char* path);
 int __wrap_unlink(const char* path) {
     return isRefused(SystemCall::unlink) ? -1 : __real_unlink(path);

@@ -25,6 +25,7 @@ enum class SystemCall {
     fchown,
     linkat,
     rename,
+    renameat2,
     unlink,
     close,
 };
