@@ -4,7 +4,7 @@
 # Debian's packages, by what needs them. Sourced by the other scripts.
 
 build_packages=(g++ cmake ninja-build pkgconf libicu-dev libexpat1-dev libexpected-dev
-                nlohmann-json3-dev qt6-base-dev libgl-dev)
+                nlohmann-json3-dev libcli11-dev qt6-base-dev libgl-dev)
 # The toolkit's way to a Wayland desktop is a package of its own.
 run_packages=(fonts-inter fonts-jetbrains-mono qt6-wayland)
 display_packages=(xvfb openbox xdotool x11-utils xclip imagemagick dbus at-spi2-core

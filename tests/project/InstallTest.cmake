@@ -14,6 +14,7 @@ list(FILTER files EXCLUDE REGEX "^(include/clipvane|lib.*/cmake/Clipvane)/")
 list(TRANSFORM files REPLACE "^lib/.*/" "lib/")
 set(expected
     bin/clipvane
+    bin/clipvane-cli
     lib/libclipvane_base.a
     lib/libclipvane_commands.a
     lib/libclipvane_import.a

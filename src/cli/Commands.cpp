@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
+#include "cli/Commands.h"
+
+#include <utility>
+
+namespace clipvane::cli {
+
+std::vector<std::unique_ptr<Command>> allCommands() {
+    std::vector<std::unique_ptr<Command>> commands;
+    commands.push_back(makeListCommand());
+    return commands;
+}
+
+}  // namespace clipvane::cli

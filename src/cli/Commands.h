@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "cli/Command.h"
+
+namespace clipvane::cli {
+
+/// All of the program's commands, in the order of --help.
+std::vector<std::unique_ptr<Command>> allCommands();
+
+std::unique_ptr<Command> makeListCommand();
+
+}  // namespace clipvane::cli

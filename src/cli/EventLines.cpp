@@ -1,0 +1,133 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
+#include "cli/EventLines.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <nlohmann/json.hpp>
+
+#include "base/Number.h"
+#include "cli/FrameCounts.h"
+#include "cli/Reason.h"
+#include "model/FrameRateSource.h"
+#include "model/TimelineEventJSON.h"
+
+namespace clipvane::cli {
+namespace {
+
+using nlohmann::json;
+
+std::string jsonText(std::string_view text) {
+    return json(text).dump(-1, ' ', false, json::error_handler_t::replace);
+}
+
+void appendCount(std::string& line, std::string_view key, FrameCounts::Count count) {
+    line += ",\"";
+    line += key;
+    line += "\":";
+    if (count) {
+        appendInteger(line, *count);
+    } else {
+        line += "null";
+    }
+}
+
+void appendCounts(std::string& line, const FrameCounts& counts) {
+    appendCount(line, "sourceInFrames", counts.sourceIn);
+    appendCount(line, "sourceOutFrames", counts.sourceOut);
+    appendCount(line, "recordInFrames", counts.recordIn);
+    appendCount(line, "recordOutFrames", counts.recordOut);
+    appendCount(line, "sourceDurationFrames", counts.sourceDuration);
+    appendCount(line, "recordDurationFrames", counts.recordDuration);
+}
+
+/// An event's thirteen keys with values of their types.
+const json& eventForm() {
+    static const json form = json::parse(encodeJSON({}));
+    return form;
+}
+
+Error lacks(const std::string& key, std::string_view kind) {
+    return because("lacks \"" + key + "\", or it is not " + std::string(kind));
+}
+
+/// What is wrong with the fields beside the event's own; nothing when all is well.
+std::optional<Error> checkKeys(const json& object) {
+    if (!object.is_object()) return because("is no JSON object");
+    for (const auto& [key, sample] : eventForm().items()) {
+        const auto found = object.find(key);
+        if (found == object.end() || found->type() != sample.type()) {
+            return lacks(key, sample.is_boolean() ? "true or false" : "a text");
+        }
+    }
+    const auto fps = object.find("fps");
+    if (fps == object.end() || !fps->is_number() || !(fps->get<double>() > 0)) {
+        return lacks("fps", "a number above 0");
+    }
+    const auto source = object.find("fpsSource");
+    const bool isKnown =
+        source != object.end() &&
+        (*source == fpsSourceDefault || *source == fpsSourceFile || *source == fpsSourceManual);
+    if (!isKnown) return lacks("fpsSource", R"("Default", "File" or "Manual")");
+    return std::nullopt;
+}
+
+/// Adds the event of `line` to `document`, which has the rate of its first.
+Result<void> takeLine(std::string_view line, std::optional<double> fps,
+                      TimelineDocument& document) {
+    const json object = json::parse(line, nullptr, false);
+    if (object.is_discarded()) return tl::unexpected(because("is not JSON"));
+    if (auto fault = checkKeys(object)) return tl::unexpected(std::move(*fault));
+    const auto lineRate = object["fps"].get<double>();
+    const auto lineSource = object["fpsSource"].get<std::string>();
+    if (document.events.empty() && !fps) document.fps = lineRate;
+    if (!fps && lineRate != document.fps) {
+        return tl::unexpected(
+            because("has another \"fps\" than the lines before; --fps would make them one"));
+    }
+    // One guess among them makes the whole of it one.
+    if (document.events.empty() || lineSource == fpsSourceDefault) document.fpsSource = lineSource;
+    auto event = decodeJSON(line);
+    if (!event) return tl::unexpected(because("has an \"id\" that is no UUID"));
+    document.events.push_back(std::move(*event));
+    return {};
+}
+
+}  // namespace
+
+std::string eventLines(const TimelineDocument& document, std::string_view file) {
+    const std::string origin = ",\"file\":" + jsonText(file) + ",\"row\":";
+    const std::string rate =
+        ",\"fps\":" + json(document.fps).dump() + ",\"fpsSource\":" + jsonText(document.fpsSource);
+    std::string lines;
+    std::int64_t row = 0;
+    for (const TimelineEvent& event : document.events) {
+        lines += encodeJSON(event);
+        lines.pop_back();  // the brace
+        lines += origin;
+        appendInteger(lines, ++row);
+        lines += rate;
+        appendCounts(lines, frameCounts(event, document.fps));
+        lines += "}\n";
+    }
+    return lines;
+}
+
+Result<std::unique_ptr<TimelineDocument>> parseEventLines(std::string_view text,
+                                                          std::optional<double> fps) {
+    auto document = std::make_unique<TimelineDocument>();
+    for (std::size_t number = 1; !text.empty(); ++number) {
+        const std::size_t end = std::min(text.find('\n'), text.size());
+        const std::string_view line = text.substr(0, end);
+        text.remove_prefix(std::min(end + 1, text.size()));
+        if (line.find_first_not_of(" \t\r") == std::string_view::npos) continue;
+        if (auto taken = takeLine(line, fps, *document); !taken) {
+            return tl::unexpected(
+                because("line " + std::to_string(number) + " " + taken.error().description));
+        }
+    }
+    return document;
+}
+
+}  // namespace clipvane::cli

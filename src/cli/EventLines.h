@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "base/Error.h"
+#include "model/TimelineDocument.h"
+
+namespace clipvane::cli {
+
+/// A line for each event of `document`, read from the file called `file`: a JSON object with the
+/// event's thirteen keys, then `file`, `row` (from 1), `fps`, `fpsSource` and six bare frame
+/// counts, null where there is none, negative where a range is reversed. Fatal for counts beyond 64
+/// bits.
+std::string eventLines(const TimelineDocument& document, std::string_view file);
+
+/// Reads such lines: of each the thirteen keys, `fps` and `fpsSource`; blank lines are skipped.
+/// Lines of different `fps` are one list at `fps` only if that is given. Fails with the number of
+/// the first line that is none.
+Result<std::unique_ptr<TimelineDocument>> parseEventLines(std::string_view text,
+                                                          std::optional<double> fps);
+
+}  // namespace clipvane::cli

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "model/TimelineDocument.h"
+
+namespace clipvane::cli {
+
+/// How `list` writes the events of one timeline after another.
+class ListFormat {
+  public:
+    ListFormat() = default;
+    ListFormat(const ListFormat&) = delete;
+    ListFormat& operator=(const ListFormat&) = delete;
+    virtual ~ListFormat() = default;
+
+    /// All that is written for a timeline: `file` is its path as reached, "-" for standard input.
+    /// Fatal for frame counts beyond 64 bits, and has done nothing then.
+    virtual std::string timeline(const TimelineDocument& document, std::string_view file) = 0;
+
+    /// What follows the last one.
+    virtual std::string end() { return {}; }
+};
+
+/// By its name in -f: "table", "csv", "tsv" or "jsonl"; for any other nothing. A table is made for
+/// standard output's terminal if `onTerminal`.
+std::unique_ptr<ListFormat> listFormat(const std::string& name, bool onTerminal);
+
+}  // namespace clipvane::cli

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "cli/Input.h"
+#include "cli/TimelineFormat.h"
+
+namespace CLI {
+class App;
+}
+
+namespace clipvane::cli {
+
+/// The options about what is read, and how.
+struct ReadingOptions {
+    std::optional<double> fps;           ///< read at this rate, whatever the file names
+    std::optional<double> to;            ///< convert to this rate afterwards
+    std::optional<TimelineFormat> from;  ///< of streams, and of names that do not tell
+    std::vector<std::string> names;      ///< as the user wrote them
+};
+
+void addFPSOption(CLI::App& app, ReadingOptions& options);
+void addToOption(CLI::App& app, ReadingOptions& options);
+/// `values` is what --help shows, "edl|xml|jsonl".
+void addFromOption(CLI::App& app, ReadingOptions& options, const std::string& values);
+/// The timelines themselves; `title` is what --help calls one.
+void addNames(CLI::App& app, ReadingOptions& options, const std::string& title);
+
+/// The format to read `input` as: by its name, else by --from.
+std::optional<TimelineFormat> formatOf(const Input& input, const ReadingOptions& options);
+
+/// What is wrong about the inputs before any of them is looked at: a stream that is named twice or
+/// whose format nobody tells, or a --from that says something about none. Nothing when all is well.
+std::optional<std::string> misuseOf(const std::vector<Input>& inputs,
+                                    const ReadingOptions& options);
+
+}  // namespace clipvane::cli
