@@ -26,6 +26,12 @@ const Option& as(const QStyleOption* option) {
     return *static_cast<const Option*>(option);
 }
 
+/// Whether `widget` is the window that holds a pop-up's open list.
+bool holdsPopupList(const QWidget* widget) {
+    return widget != nullptr && widget->isWindow() &&
+           qobject_cast<const QComboBox*>(widget->parentWidget()) != nullptr;
+}
+
 }  // namespace
 
 ClipvaneStyle::ClipvaneStyle() : QProxyStyle(QStyleFactory::create("Fusion")) {
@@ -63,11 +69,12 @@ void ClipvaneStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
         case PE_FrameStatusBarItem:
         case PE_PanelScrollAreaCorner:
             return;  // the controls show the focus themselves
-        case PE_PanelLineEdit:
-            return paintField(*painter, *option, option->palette.color(QPalette::Base));
         case PE_FrameLineEdit:
             return;
         case PE_Frame:
+            if (holdsPopupList(widget)) return;  // a menu, which has its edge already
+            [[fallthrough]];
+        case PE_PanelLineEdit:
             return paintField(*painter, *option, option->palette.color(QPalette::Base));
         case PE_PanelTipLabel:
         case PE_PanelMenu:
@@ -127,7 +134,10 @@ QSize ClipvaneStyle::sizeFromContents(ContentsType type, const QStyleOption* opt
         case CT_MenuItem: {
             const auto& item = as<QStyleOptionMenuItem>(option);
             if (item.menuItemType == QStyleOptionMenuItem::Separator) return {size.width(), 9};
-            return {size.width() + 48, 30};
+            // An entry of a pop-up comes as wide as its list.
+            const bool inList = qobject_cast<const QComboBox*>(widget) != nullptr;
+            const int text = inList ? item.fontMetrics.horizontalAdvance(item.text) : size.width();
+            return {text + (inList ? 44 : 48), 30};
         }
         default:
             return QProxyStyle::sizeFromContents(type, option, size, widget);

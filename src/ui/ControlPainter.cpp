@@ -52,6 +52,11 @@ bool hasKeyboardFocus(QStyle::State state) {
 
 void paintBox(QPainter& painter, const QRectF& rect, double radius, const QBrush& fill,
               const QColor& edge) {
+    if (radius == 0) {  // a path would soften the corners
+        painter.fillRect(rect, edge);
+        painter.fillRect(rect.adjusted(1, 1, -1, -1), fill);
+        return;
+    }
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(line(edge, 1));

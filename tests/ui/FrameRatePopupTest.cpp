@@ -9,6 +9,8 @@
 #include <QTest>
 #include <QWheelEvent>
 
+#include "ui/Colours.h"
+
 namespace clipvane {
 namespace {
 
@@ -86,6 +88,32 @@ TEST_F(FrameRatePopupTest, ArrowsSpaceAndReturn_OpenTheList) {
         popup.hidePopup();
     }
     EXPECT_EQ(chosen, 0);
+}
+
+TEST_F(FrameRatePopupTest, OpenList_IsOneSurfaceWithAStraightEdge) {
+    popup.showPopup();
+    QWidget& list = *popup.view()->window();
+    const QImage image = list.grab().toImage();
+    const int right = image.width() - 1;
+    const int bottom = image.height() - 1;
+    for (const QPoint& corner :
+         {QPoint(0, 0), QPoint(right, 0), QPoint(0, bottom), QPoint(right, bottom)}) {
+        EXPECT_EQ(image.pixelColor(corner), colours::menuEdge) << corner.x() << ' ' << corner.y();
+    }
+    // Beside the entries' texts, from the upper edge to the lower.
+    for (const int x : {2, right - 2}) {
+        for (int y = 1; y < bottom; ++y) {
+            ASSERT_EQ(image.pixelColor(x, y), colours::menu) << x << ' ' << y;
+        }
+    }
+}
+
+TEST_F(FrameRatePopupTest, OpenList_ItsEntriesAreAsWideAsTheList) {
+    popup.showPopup();
+    QAbstractItemView& list = *popup.view();
+    const QRect entry = list.visualRect(list.model()->index(0, 0));
+    EXPECT_EQ(entry.width(), list.viewport()->width());
+    EXPECT_EQ(entry.height(), 30);
 }
 
 TEST_F(FrameRatePopupTest, CurrentEntryChosenAgain_Counts) {
