@@ -44,10 +44,24 @@ class AlertIcon : public QWidget {
     Alert::Style style;
 };
 
+/// The least width at which the text takes no more lines than at `textWidth`: lines of much the
+/// same length, and no word alone on the last.
+int balancedWidth(const TextLabel& label) {
+    const int height = label.heightForWidth(textWidth);
+    if (height >= mostLines * label.fontMetrics().lineSpacing()) return textWidth;
+    int tooNarrow = 0;
+    int wideEnough = textWidth;
+    while (wideEnough - tooNarrow > 1) {
+        const int width = (tooNarrow + wideEnough) / 2;
+        (label.heightForWidth(width) > height ? tooNarrow : wideEnough) = width;
+    }
+    return wideEnough;
+}
+
 TextLabel* wrapped(const std::string& text, const QFont& font, const QColor& colour) {
     auto* label = new TextLabel(toQt(text), font, colour);
     label->setMaximumLines(mostLines);
-    label->setFixedSize(textWidth, label->heightForWidth(textWidth));
+    label->setFixedSize(balancedWidth(*label), label->heightForWidth(textWidth));
     return label;
 }
 
@@ -71,6 +85,7 @@ AlertDialog::AlertDialog(const Alert& alert, QWidget* parent) : QDialog(parent) 
     layout->addWidget(new AlertIcon(alert.style), 0, 0, 2, 1, Qt::AlignTop);
     layout->addWidget(wrapped(alert.message, systemFont(15, QFont::Bold), colours::white), 0, 1);
     layout->addWidget(wrapped(alert.information, systemFont(13), colours::text), 1, 1);
+    layout->setColumnMinimumWidth(1, textWidth);
     layout->setRowMinimumHeight(2, 6);
     layout->addWidget(button, 3, 1, Qt::AlignRight);
     layout->setSizeConstraint(QLayout::SetFixedSize);

@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QTest>
 
+#include "ui/Colours.h"
 #include "ui/TextLabel.h"
 
 namespace clipvane {
@@ -49,6 +50,37 @@ TEST(AlertDialog, MarkupInTheReason_IsShownAsText) {
         EXPECT_EQ(label->textFormat(), Qt::PlainText);
     }
     EXPECT_EQ(texts(dialog)[1].toStdString(), reason);
+}
+
+int linesOf(const QLabel& label) {
+    return label.height() / label.fontMetrics().lineSpacing();
+}
+
+TEST(AlertDialog, Text_BreaksIntoLinesOfMuchTheSameLength) {
+    const AlertDialog dialog(
+        {Alert::Style::informational, "Check Project Frame Rate",
+         "Please make sure to set the right project frame rate. Incorrect frame rate might produce "
+         "incorrect timecodes."},
+        nullptr);
+    const auto& message = *dialog.findChildren<TextLabel*>()[0];
+    EXPECT_EQ(linesOf(message), 1);
+    const auto& text = *dialog.findChildren<TextLabel*>()[1];
+    EXPECT_FALSE(text.isElided());
+    ASSERT_GT(linesOf(text), 1);
+    const int average = text.fontMetrics().horizontalAdvance(text.text()) / linesOf(text);
+    EXPECT_LT(text.width(), average * 1.25);
+}
+
+TEST(AlertDialog, SignOfANotice_IsWhiteOnBlueAndThatOfAWarningDarkOnAmber) {
+    const auto signOf = [](Alert::Style style) {
+        AlertDialog dialog({style, "Message", "Text"}, nullptr);
+        dialog.show();
+        const QImage image = dialog.grab().toImage();
+        // The middle of the icon, which is 40 wide, at the left of its ground; then in the stem.
+        return std::pair(image.pixelColor(24 + 6, 24 + 20), image.pixelColor(24 + 20, 24 + 20));
+    };
+    EXPECT_EQ(signOf(Alert::Style::informational), std::pair(colours::accentHover, colours::white));
+    EXPECT_EQ(signOf(Alert::Style::warning), std::pair(colours::warning, colours::window));
 }
 
 TEST(AlertDialog, VeryLongReason_StaysOnTheScreen) {
