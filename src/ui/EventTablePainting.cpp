@@ -30,7 +30,8 @@ void EventTableView::paintEvent(QPaintEvent* event) {
     QPainter painter(viewport());
     const QRect dirty = event->rect();
     painter.fillRect(dirty, colours::table);
-    if (model() == nullptr) return;
+    // An empty list is covered by a text, which lines would run through.
+    if (rowCount() == 0) return;
     for (int row = firstRowIn(dirty); row <= lastRowIn(dirty); ++row) paintRow(painter, row, dirty);
     for (int column = 0; column < model()->columnCount(); ++column) {
         const int x = columnViewportPosition(column) + columnWidth(column) - 1;

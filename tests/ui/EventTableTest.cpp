@@ -163,6 +163,13 @@ TEST_F(EventTableTest, VerticalLines_AlsoBelowTheLastRow) {
     EXPECT_EQ(image.pixelColor(20, 47), image.pixelColor(20, 2)) << "no line between rows";
 }
 
+TEST_F(EventTableTest, EmptyList_HasNoLinesBehindItsText) {
+    const QImage image = view.viewport()->grab().toImage();
+    for (int x = 0; x < image.width(); ++x) {
+        ASSERT_EQ(image.pixelColor(x, 300), colours::table) << x;
+    }
+}
+
 TEST_F(EventTableTest, LongClipName_LosesItsMiddle) {
     fill(1);
     document.events[0].clipName = "A001_C001_a_very_long_name_of_a_clip_take_07.mov";
