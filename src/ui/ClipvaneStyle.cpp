@@ -75,7 +75,8 @@ void ClipvaneStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
             if (holdsPopupList(widget)) return;  // a menu, which has its edge already
             [[fallthrough]];
         case PE_PanelLineEdit:
-            return paintField(*painter, *option, option->palette.color(QPalette::Base));
+            return paintField(*painter, *option, option->palette.color(QPalette::Base),
+                              colours::fieldEdge);
         case PE_PanelTipLabel:
         case PE_PanelMenu:
             return paintBox(*painter, option->rect, 0, colours::menu, colours::menuEdge);

@@ -84,8 +84,9 @@ void paintControl(QPainter& painter, const QStyleOption& option, bool prominent)
     if (hasKeyboardFocus(option.state)) paintFocusRing(painter, rect, controlRadius);
 }
 
-void paintField(QPainter& painter, const QStyleOption& option, const QColor& fill) {
-    paintBox(painter, option.rect, fieldRadius, fill, colours::controlEdge);
+void paintField(QPainter& painter, const QStyleOption& option, const QColor& fill,
+                const QColor& edge) {
+    paintBox(painter, option.rect, fieldRadius, fill, edge);
     if (option.state & QStyle::State_HasFocus) {
         paintFocusRing(painter, option.rect, fieldRadius);
     }

@@ -20,7 +20,8 @@ namespace clipvane {
 void paintControl(QPainter& painter, const QStyleOption& option, bool prominent);
 
 /// A field to type in, or the frame of a list.
-void paintField(QPainter& painter, const QStyleOption& option, const QColor& fill);
+void paintField(QPainter& painter, const QStyleOption& option, const QColor& fill,
+                const QColor& edge);
 
 /// A rounded rectangle whose edge, one pixel wide, lies inside `rect`.
 void paintBox(QPainter& painter, const QRectF& rect, double radius, const QBrush& fill,

@@ -9,11 +9,23 @@
 #include <QPainter>
 #include <QToolTip>
 
+#include "ui/Colours.h"
 #include "ui/EventTableView.h"
 #include "ui/Fonts.h"
 #include "ui/Text.h"
 
 namespace clipvane {
+
+namespace {
+
+/// The quietest of the fields' colours would be hard to read on the blue of a selected row.
+QColor textColour(const QModelIndex& index, bool selected) {
+    const auto colour = index.data(Qt::ForegroundRole).value<QColor>();
+    return selected && colour == colours::secondaryText ? colours::secondaryTextOnSelection
+                                                        : colour;
+}
+
+}  // namespace
 
 EventCell::EventCell(QObject* parent)
     : QStyledItemDelegate(parent), labelFont(monospacedFont(14, QFont::Medium)) {}
@@ -29,7 +41,7 @@ void EventCell::paint(QPainter* painter, const QStyleOptionViewItem& option,
     const QRect rect = option.rect;
     const int y = rect.top() + (rect.height() - metrics.height()) / 2 + metrics.ascent();
     painter->setFont(labelFont);
-    painter->setPen(index.data(Qt::ForegroundRole).value<QColor>());
+    painter->setPen(textColour(index, option.state & QStyle::State_Selected));
     painter->drawText(QPoint(rect.left() + padding, y), shownText(index, rect.width()));
 }
 

@@ -15,10 +15,12 @@ void EventTableView::paintRow(QPainter& painter, int row, const QRect& dirty) co
     const QRect touched = area & dirty;
     const HighlightRowView rowView = rowViewForRow(row);
     rowView.drawBackground(painter, touched);
-    if (selectionModel()->isRowSelected(row)) rowView.drawSelection(painter, touched);
+    const bool selected = selectionModel()->isRowSelected(row);
+    if (selected) rowView.drawSelection(painter, touched);
 
     QStyleOptionViewItem option;
     initViewItemOption(&option);
+    option.state.setFlag(QStyle::State_Selected, selected);
     for (int column = 0; column < model()->columnCount(); ++column) {
         const QModelIndex index = model()->index(row, column);
         option.rect = visualRect(index);

@@ -13,6 +13,7 @@
 #include <QTest>
 
 #include "support/ThrowingFatal.h"
+#include "ui/ColourMixing.h"
 #include "ui/Colours.h"
 #include "ui/EventCell.h"
 #include "ui/EventColumn.h"
@@ -21,6 +22,8 @@
 
 namespace clipvane {
 namespace {
+
+using test::over;
 
 class EventTableTest : public testing::Test {
   protected:
@@ -59,15 +62,6 @@ class EventTableTest : public testing::Test {
     EventTableModel model{document};
     EventTableView view;
 };
-
-/// `top` laid over an opaque `bottom`.
-QColor over(const QColor& top, const QColor& bottom) {
-    const auto mix = [&](int a, int b) {
-        return (a * top.alpha() + b * (255 - top.alpha()) + 127) / 255;
-    };
-    return {mix(top.red(), bottom.red()), mix(top.green(), bottom.green()),
-            mix(top.blue(), bottom.blue())};
-}
 
 void expectAlmost(const QColor& colour, const QColor& expected) {
     EXPECT_NEAR(colour.red(), expected.red(), 1);
@@ -168,6 +162,25 @@ TEST_F(EventTableTest, EmptyList_HasNoLinesBehindItsText) {
     for (int x = 0; x < image.width(); ++x) {
         ASSERT_EQ(image.pixelColor(x, 300), colours::table) << x;
     }
+}
+
+TEST_F(EventTableTest, TypeOnASelectedRow_IsLighter) {
+    fill(2);
+    view.selectRow(0);
+    const auto brightest = [this](int row) {
+        const QRect cell = view.visualRect(model.index(row, 7)).adjusted(8, 4, -8, -4);
+        const QImage image = view.viewport()->grab(cell).toImage();
+        int most = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                most = std::max(most, image.pixelColor(x, y).green());
+            }
+        }
+        return most;
+    };
+    view.resize(1400, 704);
+    EXPECT_NEAR(brightest(0), colours::secondaryTextOnSelection.green(), 8);
+    EXPECT_NEAR(brightest(1), colours::secondaryText.green(), 8);
 }
 
 TEST_F(EventTableTest, LongClipName_LosesItsMiddle) {
