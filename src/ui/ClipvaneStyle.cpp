@@ -8,6 +8,7 @@
 #include <QHeaderView>
 #include <QMessageBox>
 #include <QPainter>
+#include <QPlainTextEdit>
 #include <QStyleFactory>
 #include <QStyleOption>
 
@@ -30,6 +31,12 @@ const Option& as(const QStyleOption* option) {
 bool holdsPopupList(const QWidget* widget) {
     return widget != nullptr && widget->isWindow() &&
            qobject_cast<const QComboBox*>(widget->parentWidget()) != nullptr;
+}
+
+/// The edge of a field shows where to type; where that is not possible it steps back.
+const QColor& fieldEdge(const QWidget* widget) {
+    const auto* editor = qobject_cast<const QPlainTextEdit*>(widget);
+    return editor != nullptr && editor->isReadOnly() ? colours::panelEdge : colours::fieldEdge;
 }
 
 }  // namespace
@@ -76,7 +83,7 @@ void ClipvaneStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
             [[fallthrough]];
         case PE_PanelLineEdit:
             return paintField(*painter, *option, option->palette.color(QPalette::Base),
-                              colours::fieldEdge);
+                              fieldEdge(widget));
         case PE_PanelTipLabel:
         case PE_PanelMenu:
             return paintBox(*painter, option->rect, 0, colours::menu, colours::menuEdge);

@@ -52,18 +52,25 @@ CommentsView::CommentsView(QWidget* parent) : QPlainTextEdit(parent) {
     setTabChangesFocus(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-    setReadOnly(true);
+    setEditable(false);
+}
+
+void CommentsView::setEditable(bool editable) {
+    setReadOnly(!editable);
+    setFocusPolicy(editable ? Qt::StrongFocus : Qt::NoFocus);
+    setPlaceholderText(editable ? QString() : "Select an event to comment on it");
+    update();  // the edge
 }
 
 void CommentsView::showComments(const UUID& id, const std::string& comments) {
-    setReadOnly(false);
+    setEditable(true);
     if (shownEvent == id) return;
     shownEvent = id;
     setText(toQt(comments));
 }
 
 void CommentsView::showNothing() {
-    setReadOnly(true);
+    setEditable(false);
     shownEvent.reset();
     setText({});
 }

@@ -19,7 +19,7 @@ class CommentsView : public QPlainTextEdit {
     /// Shows the comment of the event `id` for editing. Shown already, it stays as it is, with all
     /// that can be undone; another event's starts afresh.
     void showComments(const UUID& id, const std::string& comments);
-    /// Shows nothing, not to be edited.
+    /// Shows nothing, not to be edited, and says how to come to edit something.
     void showNothing();
 
     /// True once the user has changed the text since it was shown.
@@ -33,6 +33,7 @@ class CommentsView : public QPlainTextEdit {
     void insertFromMimeData(const QMimeData* source) override;
 
   private:
+    void setEditable(bool editable);
     void setText(const QString& text);
     void wrapFor(const QString& text);
 

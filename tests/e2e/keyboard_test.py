@@ -136,6 +136,10 @@ def comments(desk):
         desk.click("text", "Comments")
         type_text("nowhere")
         stays(lambda: desk.comments() == "", "empty comments")
+    with desk.step("and Tab passes them by"):
+        go_to(desk, ("table", "Event Viewer"))
+        press("Tab")
+        desk.await_focus(*TAB_ORDER[0])
 
 
 def keyboard(desk):

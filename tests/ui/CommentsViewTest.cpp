@@ -38,6 +38,30 @@ TEST(CommentsView, NothingShown_EmptyAndReadOnly) {
     EXPECT_FALSE(view.isEdited());
 }
 
+/// The colour of the middle of the upper edge.
+QColor edgeOf(CommentsView& view) {
+    const QImage image = view.grab().toImage();
+    return image.pixelColor(image.width() / 2, 0);
+}
+
+TEST(CommentsView, ReadOnly_LooksItAndTellsHowToCommentAndTakesNoFocus) {
+    CommentsView view;
+    view.resize(362, 105);
+    view.show();
+    EXPECT_EQ(edgeOf(view), colours::panelEdge);
+    EXPECT_EQ(view.placeholderText(), "Select an event to comment on it");
+    EXPECT_EQ(view.palette().color(QPalette::PlaceholderText), colours::secondaryText);
+    EXPECT_EQ(view.grab().toImage().pixelColor(180, 60), colours::editor);
+    EXPECT_EQ(view.focusPolicy(), Qt::NoFocus);
+    view.showComments(one, "");
+    EXPECT_EQ(edgeOf(view), colours::fieldEdge);
+    EXPECT_EQ(view.placeholderText(), "");
+    EXPECT_EQ(view.focusPolicy(), Qt::StrongFocus);
+    view.showNothing();
+    EXPECT_EQ(edgeOf(view), colours::panelEdge);
+    EXPECT_EQ(view.focusPolicy(), Qt::NoFocus);
+}
+
 struct LosslessRow {
     const char* name;
     const char* text;

@@ -85,5 +85,10 @@ TEST(Contrast, FieldsOfASelectedRow_CanBeReadButForTheRecordTimecodesALittleLess
     }
 }
 
+TEST(Contrast, ReadOnlyFieldsEdge_IsDimmer) {
+    EXPECT_LT(contrast(colours::panelEdge, colours::panel),
+              contrast(colours::fieldEdge, colours::panel) / 2);
+}
+
 }  // namespace
 }  // namespace clipvane

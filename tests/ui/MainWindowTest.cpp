@@ -12,7 +12,20 @@
 namespace clipvane {
 namespace {
 
-using MainWindowTest = test::WindowTest;
+class MainWindowTest : public test::WindowTest {
+  protected:
+    /// What has the focus now and after each of `count` - 1 Tabs; one more follows.
+    QStringList tabThrough(int count) {
+        QStringList order;
+        for (int i = 0; i < count; ++i) {
+            QWidget* focused = controller.window()->focusWidget();
+            const auto* pressed = dynamic_cast<const QPushButton*>(focused);
+            order << (pressed ? pressed->text() : focused->accessibleName());
+            QTest::keyClick(focused, Qt::Key_Tab);
+        }
+        return order;
+    }
+};
 
 TEST_F(MainWindowTest, Fresh_EmptyListAndInitialTexts) {
     EXPECT_EQ(controller.window()->windowTitle(), "Clipvane");
@@ -160,16 +173,15 @@ TEST_F(MainWindowTest, DetailPanelAtItsNarrowest_ShowsTheRowsWhole) {
     EXPECT_EQ(row->visibleRegion().boundingRect().width(), 360);
 }
 
+TEST_F(MainWindowTest, TabOrderWithNothingToComment_PassesTheCommentsBy) {
+    button("Help")->setFocus();
+    EXPECT_EQ(tabThrough(3), (QStringList{"Help", "Event Viewer", "Open Timeline"}));
+}
+
 TEST_F(MainWindowTest, TabOrder_ToolbarTableCommentsAndBack) {
+    open(writeEDL("cut.edl", 1));
     button("Open Timeline")->setFocus();
-    QStringList order;
-    for (int i = 0; i < 10; ++i) {
-        const QWidget* focused = controller.window()->focusWidget();
-        const auto* pressed = dynamic_cast<const QPushButton*>(focused);
-        order << (pressed ? pressed->text() : focused->accessibleName());
-        QTest::keyClick(controller.window()->focusWidget(), Qt::Key_Tab);
-    }
-    EXPECT_EQ(order,
+    EXPECT_EQ(tabThrough(10),
               (QStringList{"Open Timeline", "Global FPS", "Remove Event", "Copy Info", "Export CSV",
                            "Export EDL", "Help", "Event Viewer", "Comments", "Open Timeline"}));
     EXPECT_EQ(controller.window()->focusWidget()->accessibleName(), "Global FPS");
