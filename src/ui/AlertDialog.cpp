@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QPushButton>
 
+#include "ui/AlertSign.h"
 #include "ui/Colours.h"
 #include "ui/Fonts.h"
 #include "ui/Text.h"
@@ -16,32 +17,21 @@
 namespace clipvane {
 namespace {
 
-constexpr int iconSize = 40;
 constexpr int textWidth = 330;
 constexpr int mostLines = 12;
 
-/// A white "i" on blue, or a dark "!" on amber.
-class AlertIcon : public QWidget {
+class SignView : public QWidget {
   public:
-    explicit AlertIcon(Alert::Style style) : style(style) { setFixedSize(iconSize, iconSize); }
+    explicit SignView(AlertSign sign) : sign(sign) { setFixedSize(alertSignSize, alertSignSize); }
 
   protected:
     void paintEvent(QPaintEvent*) override {
-        const bool warns = style == Alert::Style::warning;
         QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(warns ? colours::warning : colours::accentHover);
-        painter.drawRoundedRect(rect(), 9, 9);
-        painter.setBrush(warns ? colours::window : colours::white);
-        const double stem = warns ? 9 : 17;
-        const double dot = warns ? 28 : 9.5;
-        painter.drawRoundedRect(QRectF(18, stem, 4, 15), 2, 2);
-        painter.drawEllipse(QPointF(20, dot + 2), 2.6, 2.6);
+        paintAlertSign(painter, rect(), sign);
     }
 
   private:
-    Alert::Style style;
+    AlertSign sign;
 };
 
 /// The least width at which the text takes no more lines than at `textWidth`: lines of much the
@@ -74,15 +64,17 @@ AlertDialog::AlertDialog(const Alert& alert, QWidget* parent) : QDialog(parent) 
 
     auto* button = new QPushButton("OK");
     button->setFont(systemFont(14, QFont::Medium));
-    button->setMinimumWidth(76);
+    button->setMinimumWidth(alertButtonWidth);
     button->setDefault(true);
     connect(button, &QPushButton::clicked, this, &QDialog::accept);
 
+    const bool warns = alert.style == Alert::Style::warning;
+    const AlertSign sign = warns ? AlertSign::warning : AlertSign::notice;
     auto* layout = new QGridLayout(this);
-    layout->setContentsMargins(24, 24, 24, 20);
+    layout->setContentsMargins(alertMargins);
     layout->setHorizontalSpacing(28);
     layout->setVerticalSpacing(12);
-    layout->addWidget(new AlertIcon(alert.style), 0, 0, 2, 1, Qt::AlignTop);
+    layout->addWidget(new SignView(sign), 0, 0, 2, 1, Qt::AlignTop);
     layout->addWidget(wrapped(alert.message, systemFont(15, QFont::Bold), colours::white), 0, 1);
     layout->addWidget(wrapped(alert.information, systemFont(13), colours::text), 1, 1);
     layout->setColumnMinimumWidth(1, textWidth);

@@ -5,22 +5,30 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QHeaderView>
+#include <QLabel>
+#include <QLayout>
 #include <QMessageBox>
 #include <QPainter>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QStyleFactory>
 #include <QStyleOption>
 
+#include "ui/AlertSign.h"
 #include "ui/Colours.h"
 #include "ui/ControlPainter.h"
+#include "ui/Fonts.h"
 #include "ui/Palette.h"
+#include "ui/StandardIcons.h"
 
 namespace clipvane {
 namespace {
 
 constexpr int controlHeight = 32;
 constexpr int controlPadding = 14;
+constexpr int listRowHeight = 26;
 
 template <class Option>
 const Option& as(const QStyleOption* option) {
@@ -39,6 +47,31 @@ const QColor& fieldEdge(const QWidget* widget) {
     return editor != nullptr && editor->isReadOnly() ? colours::panelEdge : colours::fieldEdge;
 }
 
+/// A button at the bottom of one of the toolkit's own dialogs.
+bool isAlertButton(const QWidget* widget) {
+    return qobject_cast<const QPushButton*>(widget) != nullptr &&
+           qobject_cast<const QDialogButtonBox*>(widget->parentWidget()) != nullptr;
+}
+
+/// Makes the toolkit's own question, such as the one before a file is replaced, look like an alert:
+/// the first line in bold, as plain text, for a file's name may look like markup.
+void dress(QMessageBox& box) {
+    box.setTextFormat(Qt::PlainText);
+    const QString text = box.text();
+    const auto end = text.lastIndexOf('\n');
+    if (end >= 0 && box.informativeText().isEmpty()) {
+        box.setText(text.left(end));
+        box.setInformativeText(text.mid(end + 1));
+    }
+    if (auto* rest = box.findChild<QLabel*>("qt_msgbox_informativelabel")) {
+        rest->setTextFormat(Qt::PlainText);
+    }
+    if (auto* message = box.findChild<QLabel*>("qt_msgbox_label")) {
+        message->setFont(systemFont(15, QFont::Bold));
+    }
+    box.layout()->setContentsMargins(alertMargins);
+}
+
 }  // namespace
 
 ClipvaneStyle::ClipvaneStyle() : QProxyStyle(QStyleFactory::create("Fusion")) {
@@ -55,8 +88,8 @@ void ClipvaneStyle::polish(QWidget* widget) {
         qobject_cast<QHeaderView*>(widget)) {
         widget->setAttribute(Qt::WA_Hover);
     }
-    // A file's name in the toolkit's own question may look like markup.
-    if (auto* box = qobject_cast<QMessageBox*>(widget)) box->setTextFormat(Qt::PlainText);
+    if (auto* box = qobject_cast<QMessageBox*>(widget)) dress(*box);
+    if (isAlertButton(widget)) widget->setFont(systemFont(14, QFont::Medium));
 }
 
 void ClipvaneStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
@@ -132,12 +165,17 @@ QSize ClipvaneStyle::sizeFromContents(ContentsType type, const QStyleOption* opt
             const auto& button = as<QStyleOptionButton>(option);
             const int width = button.fontMetrics.horizontalAdvance(button.text);
             const int icon = button.icon.isNull() ? 0 : button.iconSize.width() + 4;
-            return {width + icon + 2 * controlPadding,
+            const int least = isAlertButton(widget) ? alertButtonWidth : 0;
+            return {std::max(width + icon + 2 * controlPadding, least),
                     std::max(controlHeight, button.fontMetrics.height() + 8)};
         }
         case CT_ComboBox: {
             const QSize usual = QProxyStyle::sizeFromContents(type, option, size, widget);
             return {std::max(size.width() + 52, 100), std::max(usual.height(), controlHeight)};
+        }
+        case CT_ItemViewItem: {  // a row of the file panel
+            const QSize usual = QProxyStyle::sizeFromContents(type, option, size, widget);
+            return {usual.width(), std::max(usual.height(), listRowHeight)};
         }
         case CT_MenuItem: {
             const auto& item = as<QStyleOptionMenuItem>(option);
@@ -178,9 +216,19 @@ int ClipvaneStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
             return 5;
         case PM_ToolTipLabelFrameWidth:
             return 6;
+        case PM_MessageBoxIconSize:
+            return alertSignSize;
+        case PM_ListViewIconSize:
+            return 16;
         default:
             return QProxyStyle::pixelMetric(metric, option, widget);
     }
+}
+
+QIcon ClipvaneStyle::standardIcon(StandardPixmap which, const QStyleOption* option,
+                                  const QWidget* widget) const {
+    const QIcon own = drawnIcon(which);
+    return own.isNull() ? QProxyStyle::standardIcon(which, option, widget) : own;
 }
 
 int ClipvaneStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

@@ -13,6 +13,7 @@
 #include <QScrollBar>
 #include <QStyleOption>
 #include <QTest>
+#include <QTreeWidget>
 
 #include "ui/Colours.h"
 #include "ui/Palette.h"
@@ -35,6 +36,60 @@ TEST(ClipvaneStyle, ToolkitsOwnQuestion_ShowsMarkupAsText) {
     QMessageBox box(QMessageBox::Warning, "Replace?", "<b>x</b>.csv already exists.");
     box.show();
     EXPECT_EQ(box.textFormat(), Qt::PlainText);
+}
+
+TEST(ClipvaneStyle, ToolkitsOwnQuestion_LooksLikeAnAlert) {
+    QMessageBox box(QMessageBox::Warning, "Export", "<i>a</i>.csv already exists.\nReplace it?",
+                    QMessageBox::Yes | QMessageBox::No);
+    box.show();
+    EXPECT_EQ(box.text(), "<i>a</i>.csv already exists.");
+    EXPECT_EQ(box.informativeText(), "Replace it?");
+    for (const char* name : {"qt_msgbox_label", "qt_msgbox_informativelabel"}) {
+        const auto* label = box.findChild<QLabel*>(name);
+        ASSERT_NE(label, nullptr) << name;
+        EXPECT_EQ(label->textFormat(), Qt::PlainText) << name;
+    }
+    EXPECT_EQ(box.findChild<QLabel*>("qt_msgbox_label")->font().weight(), QFont::Bold);
+    for (const auto* button : box.findChildren<QPushButton*>()) {
+        EXPECT_GE(button->width(), 76);
+        EXPECT_EQ(button->font().pixelSize(), 14);
+    }
+    const QImage image = box.grab().toImage();
+    EXPECT_EQ(image.pixelColor(24 + 6, 24 + 20), colours::warning) << "the ground of the sign";
+    EXPECT_EQ(image.pixelColor(24 + 20, 24 + 20), colours::window) << "its stem";
+}
+
+TEST(ClipvaneStyle, RowsOfFiles_Are26High) {
+    QTreeWidget files;
+    files.addTopLevelItem(new QTreeWidgetItem({"cut.edl"}));
+    files.show();
+    EXPECT_EQ(files.visualItemRect(files.topLevelItem(0)).height(), 26);
+}
+
+TEST(ClipvaneStyle, IconsOfTheFilePanel_AreGreyLinesOrBlueFolders) {
+    for (const auto which :
+         {QStyle::SP_ArrowBack, QStyle::SP_ArrowForward, QStyle::SP_FileDialogToParent,
+          QStyle::SP_FileDialogNewFolder, QStyle::SP_FileDialogListView,
+          QStyle::SP_FileDialogDetailedView, QStyle::SP_DirIcon, QStyle::SP_DirHomeIcon,
+          QStyle::SP_FileIcon, QStyle::SP_ComputerIcon, QStyle::SP_DriveHDIcon,
+          QStyle::SP_DesktopIcon, QStyle::SP_TrashIcon}) {
+        const QIcon icon = QApplication::style()->standardIcon(which);
+        for (const int size : {16, 24, 48}) {
+            const QImage image = icon.pixmap(size, size).toImage();
+            ASSERT_EQ(image.size(), QSize(size, size)) << which;
+            int ink = 0;
+            for (int y = 0; y < size; ++y) {
+                for (int x = 0; x < size; ++x) {
+                    const QColor colour = image.pixelColor(x, y);
+                    if (colour.alpha() < 200) continue;
+                    ++ink;
+                    EXPECT_GE(colour.blue() + 2, colour.green()) << which << " is green there";
+                    EXPECT_GE(colour.blue() + 2, colour.red()) << which << " is yellow there";
+                }
+            }
+            EXPECT_GT(ink, size / 2) << which << " at " << size;
+        }
+    }
 }
 
 TEST(ClipvaneStyle, NothingToScroll_BarKeepsItsPlaceWithoutAThumb) {
