@@ -40,39 +40,40 @@ void dress(QFileDialog& panel) {
     }
 }
 
-std::optional<std::filesystem::path> run(QFileDialog& panel, QString& folder) {
+}  // namespace
+
+QString FilePanels::startFolder() const {
+    if (!folder.isEmpty()) return folder;
+    const QString working = QDir::currentPath();
+    return working.isEmpty() || working == "/" ? QDir::homePath() : working;
+}
+
+std::optional<std::filesystem::path> FilePanels::run(QFileDialog& panel) {
+    panel.setIconProvider(&kinds);
     dress(panel);
     const bool accepted = panel.exec() == QDialog::Accepted;
     // A panel and its question that go at once leave some window managers with no active window.
-    panel.parentWidget()->activateWindow();
+    parent->activateWindow();
     if (!accepted || panel.selectedFiles().isEmpty()) return std::nullopt;
     const QString file = panel.selectedFiles().first();
     folder = QFileInfo(file).absolutePath();
     return std::filesystem::path(QFile::encodeName(file).toStdString());
 }
 
-}  // namespace
-
-QString FilePanels::startFolder() const {
-    return folder.isEmpty() ? QDir::homePath() : folder;
-}
-
 std::optional<std::filesystem::path> FilePanels::runOpenPanel() {
-    QFileDialog panel(parent, "Open Timeline");
-    panel.setDirectory(startFolder());
+    QFileDialog panel(parent, "Open Timeline", startFolder());
     panel.setFileMode(QFileDialog::ExistingFile);
     panel.setNameFilter(timelineFilter);
     panel.setOption(QFileDialog::HideNameFilterDetails);
-    return run(panel, folder);
+    return run(panel);
 }
 
 std::optional<std::filesystem::path> FilePanels::runSavePanel(const std::string& defaultName) {
-    QFileDialog panel(parent, "Export");
+    QFileDialog panel(parent, "Export", startFolder());
     panel.setAcceptMode(QFileDialog::AcceptSave);
     panel.setFileMode(QFileDialog::AnyFile);
-    panel.setDirectory(startFolder());
     panel.selectFile(toQt(defaultName));
-    return run(panel, folder);
+    return run(panel);
 }
 
 }  // namespace clipvane

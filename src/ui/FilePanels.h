@@ -8,11 +8,15 @@
 #include <optional>
 #include <string>
 
+#include "ui/FileKinds.h"
+
+class QFileDialog;
 class QWidget;
 
 namespace clipvane {
 
-/// The modal panels that ask for a file. Both start in the folder that was used last in this run.
+/// The modal panels that ask for a file. Both start in the folder that was used last in this run;
+/// at first in the working directory, or at home if that is the root of all folders.
 class FilePanels {
   public:
     explicit FilePanels(QWidget* parent) : parent(parent) {}
@@ -24,8 +28,10 @@ class FilePanels {
 
   private:
     QString startFolder() const;
+    std::optional<std::filesystem::path> run(QFileDialog& panel);
 
     QWidget* parent;
+    FileKinds kinds;
     QString folder;
 };
 

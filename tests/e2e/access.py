@@ -47,9 +47,9 @@ def children_of(node):
 
 
 def walk(node):
-    """The node and all below it, in reading order, but for the cells of tables."""
+    """The node and all below it, in reading order, but for the cells of tables and file lists."""
     yield node
-    cells_follow = role_of(node) == "table"
+    cells_follow = role_of(node) in ("table", "tree")
     for child in children_of(node):
         if cells_follow and role_of(child) == "table cell":
             break
@@ -57,10 +57,14 @@ def walk(node):
 
 
 def walk_showing(node):
-    """As `walk`, without what is hidden and all below it."""
+    """The node and all below it, without what is hidden and all below that, nor a file list's cells:
+    there may be thousands."""
     if is_showing(node):
         yield node
+        cells_follow = role_of(node) == "tree"
         for child in children_of(node):
+            if cells_follow and role_of(child) == "table cell":
+                break
             yield from walk_showing(child)
 
 

@@ -36,11 +36,11 @@ class Desk:
 
     # Runs.
 
-    def start(self, arguments=(), environment=None, command=None, accessible=True):
+    def start(self, arguments=(), environment=None, command=None, accessible=True, folder=None):
         with open(self.scratch / "stdout", "wb") as out, open(self.scratch / "stderr", "wb") as err:
             self.process = subprocess.Popen(
                 [*(command or [self.program]), *arguments], stdin=subprocess.DEVNULL, stdout=out,
-                stderr=err, cwd=self.scratch, env={**os.environ, **(environment or {})})
+                stderr=err, cwd=folder or self.scratch, env={**os.environ, **(environment or {})})
         self.await_window("Clipvane")
         if not accessible:
             return

@@ -42,6 +42,16 @@ class ModalAnswers {
             return true;
         });
     }
+    /// The next dialog is a file panel, which is cancelled after `look`.
+    void lookAtPanel(std::function<void(QFileDialog&)> look) {
+        answers.push_back([look = std::move(look)](QWidget* dialog) {
+            auto* panel = qobject_cast<QFileDialog*>(dialog);
+            if (panel == nullptr) return false;
+            look(*panel);
+            QMetaObject::invokeMethod(panel, "reject", Qt::QueuedConnection);
+            return true;
+        });
+    }
     /// The next dialog is an alert; its texts are kept.
     void dismissAlert() {
         answers.push_back([this](QWidget* dialog) {
