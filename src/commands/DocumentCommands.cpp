@@ -14,7 +14,6 @@
 #include "commands/CSVReport.h"
 #include "commands/CopyInfo.h"
 #include "commands/EditedEDL.h"
-#include "commands/Messages.h"
 #include "commands/TimelineRate.h"
 #include "import/TimelineParser.h"
 
@@ -30,29 +29,36 @@ std::optional<double> rateInTitle(std::string title) {
     return parseNumber(title);
 }
 
+/// `row`, or the last one before it, of a list of `count` rows; nothing of an empty list.
+std::optional<std::size_t> rowWithin(std::size_t count, std::size_t row) {
+    if (count == 0) return std::nullopt;
+    return std::min(row, count - 1);
+}
+
+/// For what matters less than that the document is whole, as it is by then.
+template <class Action>
+void ifMemoryAllows(Action action) try {
+    action();
+} catch (const std::bad_alloc&) {
+}
+
 }  // namespace
 
-template <class Command>
-bool DocumentCommands::withMemory(const Alert& otherwise, Command command) {
-    bool isOut = false;
+// Each command keeps the alert that lack of memory would end it with: from when its change is made,
+// another one.
+
+void DocumentCommands::tellLackOfMemory(const Alert& alert) {
     try {
-        command();
+        throw;
     } catch (const std::bad_alloc&) {
-        isOut = true;
     } catch (const std::length_error&) {
-        isOut = true;
     }
-    if (!isOut) return true;
-    try {
-        runAlert(otherwise);
-    } catch (const std::bad_alloc&) {
-        // Not even the alert fits. The document is whole, which matters more than to say so.
-    }
-    return false;
+    ifMemoryAllows([&] { runAlert(alert); });
 }
 
 void DocumentCommands::openTimeline() {
-    withMemory(noMemory.toOpen, [&] {
+    const Alert* alert = &noMemory.toOpen;
+    try {
         writeLog(openClickedLine);
         const auto url = runOpenPanel();
         if (!url) return;
@@ -72,19 +78,20 @@ void DocumentCommands::openTimeline() {
         documentModel.removedEvents.clear();
         documentModel.fps = parsed->fps;
         documentModel.fpsSource = std::move(parsed->fpsSource);
+        alert = &noMemory.toShow;
 
-        withMemory(noMemory.toShow, [&] {
-            syncFPSPopup();
-            reloadTable();
-            showEvents(0);
-            setStatus(loadedStatus(documentModel, *url));
-            runAlert(checkFrameRateAlert());
-        });
-    });
+        syncFPSPopup();
+        showNewEvents(rowWithin(documentModel.events.size(), 0));
+        setStatus(loadedStatus(documentModel, *url));
+        runAlert(checkFrameRateAlert());
+    } catch (...) {
+        tellLackOfMemory(*alert);
+    }
 }
 
 void DocumentCommands::fpsChanged() {
-    const bool isDone = withMemory(noMemory.toChange, [&] {
+    const Alert* alert = &noMemory.toChange;
+    try {
         const auto title = selectedFPSTitle();
         if (!title) return;
         const auto fps = rateInTitle(*title);
@@ -99,19 +106,23 @@ void DocumentCommands::fpsChanged() {
         });
         documentModel.fps = *fps;
         documentModel.fpsSource = fpsSourceManual;
+        alert = &noMemory.toShow;
 
-        withMemory(noMemory.toShow, [&] {
-            reloadTable();
-            setStatus(convertedStatus(converted, earlier, *fps));
-            syncFPSPopup();
-            refreshDetails();
-        });
-    });
-    if (!isDone) withMemory(noMemory.toShow, [&] { syncFPSPopup(); });
+        setStatus(convertedStatus(converted, earlier, *fps));
+        syncFPSPopup();
+        refreshTexts();
+    } catch (...) {
+        tellLackOfMemory(*alert);
+        ifMemoryAllows([&] { syncFPSPopup(); });
+    }
 }
 
 void DocumentCommands::saveCurrentComment() {
-    withMemory(noMemory.toChange, [&] { storeComment(); });
+    try {
+        storeComment();
+    } catch (...) {
+        tellLackOfMemory(noMemory.toChange);
+    }
 }
 
 void DocumentCommands::storeComment() {
@@ -137,44 +148,42 @@ void DocumentCommands::textDidChange() {
 }
 
 void DocumentCommands::removeSelectedEvent() {
-    withMemory(noMemory.toChange, [&] {
+    const Alert* alert = &noMemory.toChange;
+    try {
         storeComment();
         const auto row = selectedRow();
         if (!row) return;
+        TimelineEvent& event = selectedEvent(*row);
         auto& events = documentModel.events;
-        documentModel.removedEvents.push_back(std::move(selectedEvent(*row)));
-        events.erase(events.begin() + static_cast<std::ptrdiff_t>(*row));
+        auto& removed = documentModel.removedEvents;
 
-        withMemory(noMemory.toShow, [&] {
-            reloadTable();
-            showEvents(*row);
-            setStatus(removedStatus(events.size()));
-        });
-    });
-}
-
-/// Shows the list as it has become: `row` selected, or the last one if there is no such row, or the
-/// label of the empty list. A reloaded table has dropped its selection without a word, so that the
-/// details of an empty list need a refresh of their own.
-void DocumentCommands::showEvents(std::size_t row) {
-    const std::size_t count = documentModel.events.size();
-    setEmptyLabelHidden(count > 0);
-    if (count > 0) {
-        selectRow(std::min(row, count - 1));
-    } else {
-        refreshDetails();
+        const auto erase = [&] {
+            removed.push_back(std::move(event));
+            events.erase(events.begin() + static_cast<std::ptrdiff_t>(*row));
+            alert = &noMemory.toShow;
+        };
+        // Room for one more, so that nothing fails while the row goes.
+        if (removed.size() == removed.capacity()) removed.reserve(removed.size() * 2 + 1);
+        removeRow(*row, erase, rowWithin(events.size() - 1, *row));
+        setStatus(removedStatus(events.size()));
+    } catch (...) {
+        tellLackOfMemory(*alert);
     }
 }
 
 void DocumentCommands::copySelectedInfo() {
-    withMemory(noMemory.toChange, [&] {
+    const Alert* alert = &noMemory.toChange;
+    try {
         storeComment();
         const auto row = selectedRow();
         if (!row) return;
         setPasteboardText(
             copyInfoText(selectedEvent(*row), documentModel.fps, documentModel.fpsSource));
-        withMemory(noMemory.toShow, [&] { setStatus(copiedStatus); });
-    });
+        alert = &noMemory.toShow;
+        setStatus(copiedStatus);
+    } catch (...) {
+        tellLackOfMemory(*alert);
+    }
 }
 
 TimelineEvent& DocumentCommands::selectedEvent(std::size_t row) {
@@ -183,30 +192,31 @@ TimelineEvent& DocumentCommands::selectedEvent(std::size_t row) {
 }
 
 void DocumentCommands::exportCSV() {
-    withMemory(noMemory.toExport, [&] {
-        storeComment();
-        saveFile("timeline-events.csv",
-                 [this](const auto& url) { return writeCSV(documentModel, url); });
-    });
+    saveFile("timeline-events.csv",
+             [this](const auto& url) { return writeCSV(documentModel, url); });
 }
 
 void DocumentCommands::exportEDL() {
-    withMemory(noMemory.toExport, [&] {
-        storeComment();
-        saveFile("edited-timeline.edl",
-                 [this](const auto& url) { return writeEDL(documentModel, url); });
-    });
+    saveFile("edited-timeline.edl",
+             [this](const auto& url) { return writeEDL(documentModel, url); });
 }
 
-void DocumentCommands::saveFile(const std::string& defaultName, const Writer& writer) {
-    const auto url = runSavePanel(defaultName);
-    if (!url) return;
-    Result<void> written;
-    whileBusy([&] { written = writer(*url); });
-    if (written) {
-        withMemory(noMemory.toShow, [&] { setStatus(exportedStatus(*url)); });
-    } else {
-        runAlert(exportFailedAlert(written.error()));
+void DocumentCommands::saveFile(const char* defaultName, const Writer& writer) {
+    const Alert* alert = &noMemory.toExport;
+    try {
+        storeComment();
+        const auto url = runSavePanel(defaultName);
+        if (!url) return;
+        Result<void> written;
+        whileBusy([&] { written = writer(*url); });
+        if (!written) {
+            runAlert(exportFailedAlert(written.error()));
+            return;
+        }
+        alert = &noMemory.toShow;
+        setStatus(exportedStatus(*url));
+    } catch (...) {
+        tellLackOfMemory(*alert);
     }
 }
 

@@ -14,7 +14,7 @@
 #include "base/UUID.h"
 #include "commands/Alert.h"
 #include "commands/LineEnds.h"
-#include "commands/NoMemoryAlerts.h"
+#include "commands/Messages.h"
 #include "model/TimelineDocument.h"
 
 namespace clipvane {
@@ -58,14 +58,12 @@ class DocumentCommands {
   private:
     using Writer = std::function<Result<void>(const std::filesystem::path& url)>;
 
-    /// Runs `command`, and shows the alert `otherwise` when there is not memory enough for it. True
-    /// if there was.
-    template <class Command>
-    bool withMemory(const Alert& otherwise, Command command);
+    /// What a command that ran out of memory ends with: shows `alert`. To be called while the
+    /// exception is handled; any other is thrown on.
+    void tellLackOfMemory(const Alert& alert);
 
     void storeComment();
-    void saveFile(const std::string& defaultName, const Writer& writer);
-    void showEvents(std::size_t row);
+    void saveFile(const char* defaultName, const Writer& writer);
     TimelineEvent& selectedEvent(std::size_t row);
     LineEnd lineEndFor(const TimelineEvent& event);
 
@@ -87,12 +85,16 @@ class DocumentCommands {
 
     /// The selected row, or nothing. Beyond the events only by mistake.
     virtual std::optional<std::size_t> selectedRow() const = 0;
-    /// Selects `row` alone, and refreshes the details even when it was selected before.
-    virtual void selectRow(std::size_t row) = 0;
-    virtual void reloadTable() = 0;
-    virtual void setEmptyLabelHidden(bool hidden) = 0;
+    /// The document has other events, or none: shows them, with the row `selected` alone selected
+    /// and in the details.
+    virtual void showNewEvents(std::optional<std::size_t> selected) = 0;
+    /// Takes `row` out of the list while `erase`, which cannot fail, takes its event out of the
+    /// document. Then `selected` alone is selected and in the details.
+    virtual void removeRow(std::size_t row, const std::function<void()>& erase,
+                           std::optional<std::size_t> selected) = 0;
+    /// The same events have other texts, or another rate: shows them in the list and the details.
+    virtual void refreshTexts() = 0;
     virtual void setStatus(const std::string& text) = 0;
-    virtual void refreshDetails() = 0;
 
     /// The comments field's text, or nothing when the user has not changed it since it was set.
     /// Line ends are line feeds.

@@ -9,49 +9,28 @@
 
 namespace clipvane {
 
-bool EventTableModel::hasSameEvents() const {
-    return document.events.size() == static_cast<std::size_t>(rows) &&
-           document.removedEvents.size() == removedEvents && rows > 0 &&
-           document.events.front().id == firstEvent;
+void EventTableModel::allIsNew() {
+    beginResetModel();
+    endResetModel();
 }
 
-/// Opening a file empties the removed events, so that only a removal adds one.
-bool EventTableModel::hasLostOneEvent() const {
-    return document.events.size() + 1 == static_cast<std::size_t>(rows) &&
-           document.removedEvents.size() == removedEvents + 1;
+void EventTableModel::rowGoes(int row, const std::function<void()>& erase) {
+    beginRemoveRows({}, row, row);
+    erase();
+    endRemoveRows();
 }
 
-void EventTableModel::remember() {
-    rows = static_cast<int>(document.events.size());
-    removedEvents = document.removedEvents.size();
-    firstEvent = rows > 0 ? document.events.front().id : UUID{};
-}
-
-void EventTableModel::reload(std::optional<std::size_t> selectedRow) {
-    if (hasSameEvents()) {
-        emit dataChanged(index(0, 0), index(rows - 1, columnCount() - 1));
-    } else if (hasLostOneEvent() && selectedRow && *selectedRow < static_cast<std::size_t>(rows)) {
-        rowGone = static_cast<int>(*selectedRow);
-        beginRemoveRows({}, *rowGone, *rowGone);
-        remember();
-        rowGone.reset();
-        endRemoveRows();
-    } else {
-        beginResetModel();
-        remember();
-        endResetModel();
-    }
+void EventTableModel::textsChanged() {
+    if (rowCount() > 0) emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
 }
 
 const TimelineEvent& EventTableModel::eventAt(int row) const {
-    if (rowGone && row == *rowGone) return document.removedEvents.back();
-    const auto position = static_cast<std::size_t>(rowGone && row > *rowGone ? row - 1 : row);
-    if (row < 0 || position >= document.events.size()) fatal("a row outside the event list");
-    return document.events[position];
+    if (row < 0 || row >= rowCount()) fatal("a row outside the event list");
+    return document.events[static_cast<std::size_t>(row)];
 }
 
 int EventTableModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : rows;
+    return parent.isValid() ? 0 : static_cast<int>(document.events.size());
 }
 
 int EventTableModel::columnCount(const QModelIndex& parent) const {

@@ -4,8 +4,7 @@
 #pragma once
 
 #include <QAbstractTableModel>
-#include <cstddef>
-#include <optional>
+#include <functional>
 
 #include "model/TimelineDocument.h"
 
@@ -20,8 +19,14 @@ class EventTableModel : public QAbstractTableModel {
 
     explicit EventTableModel(const TimelineDocument& document) : document(document) {}
 
-    /// The document has changed, by one command. `selectedRow` was selected before.
-    void reload(std::optional<std::size_t> selectedRow);
+    // What a command did to the document's events, as the views must hear it.
+
+    /// They are others.
+    void allIsNew();
+    /// `row` goes by calling `erase`, which takes its event out of the document and cannot fail.
+    void rowGoes(int row, const std::function<void()>& erase);
+    /// They are the same, with other texts.
+    void textsChanged();
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -31,15 +36,8 @@ class EventTableModel : public QAbstractTableModel {
 
   private:
     const TimelineEvent& eventAt(int row) const;
-    bool hasSameEvents() const;
-    bool hasLostOneEvent() const;
-    void remember();
 
     const TimelineDocument& document;
-    int rows = 0;
-    std::size_t removedEvents = 0;
-    UUID firstEvent;
-    std::optional<int> rowGone;  ///< while the views are told that it goes
 };
 
 }  // namespace clipvane

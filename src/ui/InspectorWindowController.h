@@ -45,16 +45,18 @@ class InspectorWindowController : public DocumentCommands {
     PanelView* makeEventPanel();
     PanelView* makeDetailPanel();
     void tableViewSelectionDidChange();
+    void showEvent(std::optional<std::size_t> row);
+    void refreshDetails();
     void fitScreen();
 
     std::optional<std::filesystem::path> runOpenPanel() override;
     std::optional<std::filesystem::path> runSavePanel(const std::string& defaultName) override;
     void runAlert(const Alert& alert) override;
     std::optional<std::size_t> selectedRow() const override;
-    void selectRow(std::size_t row) override;
-    void reloadTable() override;
-    void refreshDetails() override;
-    void setEmptyLabelHidden(bool hidden) override;
+    void showNewEvents(std::optional<std::size_t> selected) override;
+    void removeRow(std::size_t row, const std::function<void()>& erase,
+                   std::optional<std::size_t> selected) override;
+    void refreshTexts() override;
     void setStatus(const std::string& text) override;
     std::optional<std::string> editedComments() const override;
     std::optional<std::string> selectedFPSTitle() const override;

@@ -104,7 +104,6 @@ TEST_F(CopyInfo, EmptyList_NothingHappens) {
 }
 
 TEST_F(CopyInfo, AfterARateChange_TheNewRateByHand) {
-    commands.selectionEndsWithReload = false;
     commands.selection = 1;
     commands.chosenTitle = "24 fps";
     commands.fpsChanged();

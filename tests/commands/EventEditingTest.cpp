@@ -28,7 +28,7 @@ TEST_F(EventEditing, RemoveRow3Of10_TheNextEventIsSelected) {
     const TimelineEvent removed = commands.document().events[3];
     const TimelineEvent next = commands.document().events[4];
     commands.removeSelectedEvent();
-    EXPECT_THAT(commands.calls, ElementsAre("reload table: 9", "hide empty label", "select row 3",
+    EXPECT_THAT(commands.calls, ElementsAre("row 3 of 10 goes: 9, row 3 selected",
                                             "status: Removed event. 9 events remain for export."));
     ASSERT_THAT(commands.document().events, SizeIs(9));
     EXPECT_EQ(commands.document().events[3], next);
@@ -38,7 +38,7 @@ TEST_F(EventEditing, RemoveRow3Of10_TheNextEventIsSelected) {
 TEST_F(EventEditing, RemoveTheLastOf10_TheNewLastIsSelected) {
     commands.selection = 9;
     commands.removeSelectedEvent();
-    EXPECT_THAT(commands.calls, ElementsAre("reload table: 9", "hide empty label", "select row 8",
+    EXPECT_THAT(commands.calls, ElementsAre("row 9 of 10 goes: 9, row 8 selected",
                                             "status: Removed event. 9 events remain for export."));
 }
 
@@ -53,9 +53,8 @@ TEST_F(EventEditing, RemoveTheOnlyEvent_TheEmptyListIsShown) {
     fillWithSamples(commands.documentModel, 1);
     commands.selection = 0;
     commands.removeSelectedEvent();
-    EXPECT_THAT(commands.calls,
-                ElementsAre("reload table: 0", "show empty label", "refresh details",
-                            "status: Removed event. 0 events remain for export."));
+    EXPECT_THAT(commands.calls, ElementsAre("row 0 of 1 goes: 0, none selected",
+                                            "status: Removed event. 0 events remain for export."));
     EXPECT_EQ(commands.selection, std::nullopt);
     EXPECT_THAT(commands.document().events, IsEmpty());
     EXPECT_THAT(commands.document().removedEvents, SizeIs(1));

@@ -17,7 +17,6 @@ namespace {
 /// All that a session says and writes: log lines, status texts, the copied text, both exports.
 std::string sessionReport(const TemporaryFolder& folder) {
     RecordingCommands commands;
-    commands.selectionEndsWithReload = false;
     commands.openPanelAnswer = folder / "cut.edl";
     commands.openTimeline();
     for (int n = 0; n < 1100; ++n) commands.documentModel.events.push_back(sampleEvent());

@@ -50,8 +50,8 @@ TEST_F(OpenTimeline, TwoEvents_StepByStep) {
     EXPECT_THAT(commands.calls,
                 ElementsAre("log: Open Timeline clicked.", "open panel", "busy", "idle",
                             "log: Parsed 2 events from " + path + " at 25.0 fps.",
-                            "pop-up: 25 fps, File", "reload table: 2", "hide empty label",
-                            "select row 0", "status: Loaded 2 events from cut.edl. FPS: 25 (File).",
+                            "pop-up: 25 fps, File", "new events: 2, row 0 selected",
+                            "status: Loaded 2 events from cut.edl. FPS: 25 (File).",
                             "notice: Check Project Frame Rate"));
     EXPECT_THAT(commands.alerts,
                 ElementsAre(Alert{Alert::Style::informational, "Check Project Frame Rate",
@@ -87,13 +87,12 @@ TEST_F(OpenTimeline, NoEvents_EmptyListShownAndStillReminded) {
     commands.selection = 1;
     open("x.edl", "TITLE: nothing\n");
     const std::string path = (folder / "x.edl").string();
-    EXPECT_THAT(
-        commands.calls,
-        ElementsAre("log: Open Timeline clicked.", "open panel", "busy", "idle",
-                    "log: Parsed 0 events from " + path + " at 24.0 fps.",
-                    "pop-up: 24 fps, Default", "reload table: 0", "show empty label",
-                    "refresh details", "status: Loaded 0 events from x.edl. FPS: 24 (Default).",
-                    "notice: Check Project Frame Rate"));
+    EXPECT_THAT(commands.calls,
+                ElementsAre("log: Open Timeline clicked.", "open panel", "busy", "idle",
+                            "log: Parsed 0 events from " + path + " at 24.0 fps.",
+                            "pop-up: 24 fps, Default", "new events: 0, none selected",
+                            "status: Loaded 0 events from x.edl. FPS: 24 (Default).",
+                            "notice: Check Project Frame Rate"));
     EXPECT_THAT(commands.document().events, IsEmpty());
     EXPECT_THAT(commands.document().removedEvents, IsEmpty());
     EXPECT_EQ(commands.selection, std::nullopt);

@@ -11,8 +11,7 @@
 
 namespace clipvane::test {
 
-/// Commands on a toolkit that writes down each call, and answers as the test wants. It behaves as
-/// the window does: a reloaded table has no selection, and a selected row shows its details.
+/// Commands on a toolkit that writes down each call, and answers as the test wants.
 class RecordingCommands : public DocumentCommands {
   public:
     using DocumentCommands::documentModel;
@@ -23,9 +22,6 @@ class RecordingCommands : public DocumentCommands {
     std::optional<std::size_t> selection;
     std::optional<std::string> typedText;
     std::optional<std::string> chosenTitle;
-
-    /// A rate change keeps the selection; other reloads end it.
-    bool selectionEndsWithReload = true;
 
     std::vector<std::string> calls;
     std::string status = "as before";
@@ -47,25 +43,30 @@ class RecordingCommands : public DocumentCommands {
         alerts.push_back(alert);
     }
     std::optional<std::size_t> selectedRow() const override { return selection; }
-    void selectRow(std::size_t row) override {
-        calls.push_back("select row " + std::to_string(row));
-        selection = row;
+    void showNewEvents(std::optional<std::size_t> selected) override {
+        calls.push_back("new events: " + listWith(selected));
+    }
+    void removeRow(std::size_t row, const std::function<void()>& erase,
+                   std::optional<std::size_t> selected) override {
+        const std::size_t before = documentModel.events.size();
+        erase();
+        calls.push_back("row " + std::to_string(row) + " of " + std::to_string(before) +
+                        " goes: " + listWith(selected));
+    }
+    void refreshTexts() override {
+        calls.push_back("texts: " + std::to_string(documentModel.events.size()));
         typedText.reset();
     }
-    void reloadTable() override {
-        calls.push_back("reload table: " + std::to_string(documentModel.events.size()));
-        if (selectionEndsWithReload) selection.reset();
-    }
-    void setEmptyLabelHidden(bool hidden) override {
-        calls.push_back(hidden ? "hide empty label" : "show empty label");
+    /// What the list and the details show then.
+    std::string listWith(std::optional<std::size_t> selected) {
+        selection = selected;
+        typedText.reset();
+        return std::to_string(documentModel.events.size()) + ", " +
+               (selected ? "row " + std::to_string(*selected) : "none") + " selected";
     }
     void setStatus(const std::string& text) override {
         calls.push_back("status: " + text);
         status = text;
-    }
-    void refreshDetails() override {
-        calls.push_back("refresh details");
-        typedText.reset();
     }
     std::optional<std::string> editedComments() const override { return typedText; }
     std::optional<std::string> selectedFPSTitle() const override { return chosenTitle; }

@@ -26,7 +26,6 @@ TEST_P(Session, OpenCommentConvertRemoveCopyExport) {
     const TemporaryFolder folder;
     writeContent(folder / GetParam().file, GetParam().content);
     RecordingCommands user;
-    user.selectionEndsWithReload = false;
 
     user.openPanelAnswer = folder / GetParam().file;
     user.openTimeline();

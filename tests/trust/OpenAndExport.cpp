@@ -42,14 +42,17 @@ class CommandLine : public DocumentCommands {
         std::fflush(stdout);
     }
     std::optional<std::size_t> selectedRow() const override { return row; }
-    void selectRow(std::size_t selected) override { row = selected; }
-    void reloadTable() override { row.reset(); }
-    void setEmptyLabelHidden(bool) override {}
+    void showNewEvents(std::optional<std::size_t> selected) override { row = selected; }
+    void removeRow(std::size_t, const std::function<void()>& erase,
+                   std::optional<std::size_t> selected) override {
+        erase();
+        row = selected;
+    }
+    void refreshTexts() override {}
     void setStatus(const std::string& text) override {
         std::printf("status: %s\n", text.c_str());
         std::fflush(stdout);
     }
-    void refreshDetails() override {}
     std::optional<std::string> editedComments() const override { return std::nullopt; }
     std::optional<std::string> selectedFPSTitle() const override { return std::nullopt; }
     void syncFPSPopup() override {}

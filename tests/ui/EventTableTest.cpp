@@ -35,13 +35,10 @@ class EventTableTest : public testing::Test {
 
     void fill(unsigned count) {
         document.events = test::sampleEvents(count);
-        document.removedEvents.clear();
-        model.reload(selected());
+        model.allIsNew();
     }
-    void removeRow(std::size_t row) {
-        document.removedEvents.push_back(document.events[row]);
-        document.events.erase(document.events.begin() + static_cast<std::ptrdiff_t>(row));
-        model.reload(row);
+    void removeRow(int row) {
+        model.rowGoes(row, [&] { document.events.erase(document.events.begin() + row); });
     }
     std::optional<std::size_t> selected() const {
         const auto rows = view.selectionModel()->selectedRows();
@@ -304,7 +301,7 @@ TEST_F(EventTableTest, RateChanged_SelectionAndScrollPositionStay) {
     view.selectRow(60);
     view.verticalScrollBar()->setValue(1234);
     document.events[60].sourceIn = "03:00:00:00";
-    model.reload(selected());
+    model.textsChanged();
     EXPECT_EQ(selected(), 60U);
     EXPECT_EQ(view.verticalScrollBar()->value(), 1234);
 }
@@ -337,7 +334,7 @@ TEST_F(EventTableTest, OtherFileOfTheSameLength_StartsAtItsTop) {
     view.selectRow(60);
     document.events = test::sampleEvents(200);
     document.events.erase(document.events.begin(), document.events.begin() + 100);
-    model.reload(selected());
+    model.allIsNew();
     EXPECT_EQ(selected(), std::nullopt);
     EXPECT_EQ(model.index(0, 0).data().toString(), "101");
 }

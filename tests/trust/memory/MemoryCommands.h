@@ -56,11 +56,14 @@ class MemoryCommands : public DocumentCommands {
         warningReason.keep(alert.information);
     }
     std::optional<std::size_t> selectedRow() const override { return row; }
-    void selectRow(std::size_t selected) override { row = selected; }
-    void reloadTable() override { row.reset(); }
-    void setEmptyLabelHidden(bool) override {}
+    void showNewEvents(std::optional<std::size_t> selected) override { row = selected; }
+    void removeRow(std::size_t, const std::function<void()>& erase,
+                   std::optional<std::size_t> selected) override {
+        erase();
+        row = selected;
+    }
+    void refreshTexts() override {}
     void setStatus(const std::string& text) override { status.keep(text); }
-    void refreshDetails() override {}
     std::optional<std::string> editedComments() const override {
         return isTyped ? std::optional(typed) : std::nullopt;
     }

@@ -41,19 +41,29 @@ std::optional<std::size_t> InspectorWindowController::selectedRow() const {
     return static_cast<std::size_t>(rows.first().row());
 }
 
-void InspectorWindowController::selectRow(std::size_t row) {
-    {
-        const QScopedValueRollback guard(reloading, true);
-        tableView->selectRow(static_cast<int>(row));
-    }
+void InspectorWindowController::showNewEvents(std::optional<std::size_t> selected) {
+    // The table drops its selection with the rows, and moves it before a row is gone.
+    const QScopedValueRollback guard(reloading, true);
+    tableModel.allIsNew();
+    showEvent(selected);
+}
+
+void InspectorWindowController::removeRow(std::size_t row, const std::function<void()>& erase,
+                                          std::optional<std::size_t> selected) {
+    const QScopedValueRollback guard(reloading, true);
+    tableModel.rowGoes(static_cast<int>(row), erase);
+    showEvent(selected);
+}
+
+void InspectorWindowController::showEvent(std::optional<std::size_t> row) {
+    emptyEventsLabel->setHidden(!documentModel.events.empty());
+    if (row) tableView->selectRow(static_cast<int>(*row));
     refreshDetails();
 }
 
-void InspectorWindowController::reloadTable() {
-    const auto row = selectedRow();
-    // The table moves its selection before a row is gone, and drops it when all are.
-    const QScopedValueRollback guard(reloading, true);
-    tableModel.reload(row);
+void InspectorWindowController::refreshTexts() {
+    tableModel.textsChanged();
+    refreshDetails();
 }
 
 void InspectorWindowController::tableViewSelectionDidChange() {
@@ -70,10 +80,6 @@ void InspectorWindowController::refreshDetails() {
     } else {
         commentsView->showNothing();
     }
-}
-
-void InspectorWindowController::setEmptyLabelHidden(bool hidden) {
-    emptyEventsLabel->setHidden(hidden);
 }
 
 void InspectorWindowController::setStatus(const std::string& text) {
