@@ -14,5 +14,7 @@ namespace clipvane::cli {
 std::vector<std::unique_ptr<Command>> allCommands();
 
 std::unique_ptr<Command> makeListCommand();
+std::unique_ptr<Command> makeConvertCommand();
+std::unique_ptr<Command> makeStampCommand();
 
 }  // namespace clipvane::cli

@@ -11,7 +11,6 @@
 #include "cli/Output.h"
 #include "cli/OutputOptions.h"
 #include "cli/ReadingOptions.h"
-#include "cli/Reason.h"
 #include "cli/TimelineReading.h"
 
 namespace clipvane::cli {
@@ -44,8 +43,7 @@ class ListCommand : public Command {
         const auto inputs = inputsNamed(reading.names);
         if (const auto misuse = misuseOf(inputs, reading)) return session.wrongUse(*misuse);
         if (isAnInput(output.file, inputs)) {
-            session.fail(outputTitle(output.file),
-                         because("is one of the timelines, and is not written over"));
+            session.fail(outputTitle(output.file), isInputError());
             return Status::failed;
         }
         auto destination = Output::open(output.file, output.existing());

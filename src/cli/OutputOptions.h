@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "base/AtomicFile.h"
+#include "base/Error.h"
 #include "cli/Input.h"
 
 namespace CLI {
@@ -18,7 +19,9 @@ namespace clipvane::cli {
 
 /// The options about where data go.
 struct OutputOptions {
-    std::string file;  ///< as the user wrote it; empty without -o
+    std::string file;      ///< of -o, as the user wrote it; else empty
+    std::string folder;    ///< of -d; else empty
+    bool inPlace = false;  ///< the inputs themselves
     bool force = false;
 
     AtomicFile::Existing existing() const {
@@ -27,7 +30,12 @@ struct OutputOptions {
 };
 
 void addOutputOption(CLI::App& app, OutputOptions& options, const std::string& description);
+void addFolderOption(CLI::App& app, OutputOptions& options, const std::string& description);
+void addInPlaceOption(CLI::App& app, OutputOptions& options);
 void addForceOption(CLI::App& app, OutputOptions& options);
+
+/// Why an output that is an input is refused.
+Error isInputError();
 
 /// Whether what is written to the output called `file` would be written over one of `inputs`.
 bool isAnInput(const std::string& file, const std::vector<Input>& inputs);

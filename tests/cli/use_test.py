@@ -64,7 +64,7 @@ class Outputs(ProgramTest):
             Row("all fail", [*to_file, "b.edl"], FAILED, files=files, said=["b.edl: "],
                 after={"a.csv": None}),
             Row("own input", ["list", "-o", "a.edl", "--force", "a.edl"], FAILED, files=files,
-                said=["a.edl: is one of the timelines"], after={"a.edl": NAMED}),
+                said=["a.edl: is one of the files that are read"], after={"a.edl": NAMED}),
             Row("no folder", ["list", "-o", "x/a.csv", "a.edl"], FAILED, files=files,
                 said=["x/a.csv: could not be written: No such file or directory"]),
             Row("folder", ["list", "-o", "x", "--force", "a.edl"], FAILED,

@@ -1,0 +1,111 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
+#include "cli/ReadAgain.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include "base/Characters.h"
+#include "base/Number.h"
+#include "import/ClipNameComment.h"
+#include "import/EDLReader.h"
+#include "import/Scan.h"
+#include "timecode/TwoDigitFields.h"
+
+namespace clipvane::cli {
+namespace {
+
+template <class Predicate>
+bool holds(std::string_view text, Predicate isMember) {
+    takeWhile(text, [&](char32_t c) { return !isMember(c); });
+    return !text.empty();
+}
+
+/// Why `timecode`, written into an EDL, is not read again; empty when it is.
+std::string_view timecodeFault(std::string_view timecode) {
+    if (timecode.empty()) return "timecodes are missing";
+    if (timecode.find(';') != std::string_view::npos) return "timecodes are drop-frame";
+    return readTwoDigitFields(timecode) ? "" : "timecodes are not of the form HH:MM:SS:FF";
+}
+
+std::string_view nameFault(std::string_view name) {
+    if (name.empty()) return "clips have no name";
+    if (name.find(':') != std::string_view::npos) return "names hold colons";
+    if (holds(name, isNewline)) return "names hold line ends";
+    if (trimBlanksAndNewlines(name) != name) return "names begin or end with blanks";
+    return "";
+}
+
+/// The likeliest reason for which an event is lost.
+template <class Event>
+std::string_view faultOf(const Event& event) {
+    if (holds(event.reelID, isWhiteSpace)) return "reels hold blanks";
+    if (holds(event.track, isWhiteSpace)) return "tracks hold blanks";
+    for (const std::string_view timecode :
+         {std::string_view(event.sourceIn), std::string_view(event.sourceOut),
+          std::string_view(event.recordIn), std::string_view(event.recordOut)}) {
+        if (const auto fault = timecodeFault(timecode); !fault.empty()) return fault;
+    }
+    if (const auto fault = nameFault(event.clipName); !fault.empty()) return fault;
+    if (clipNameComment(event.comments)) return "comments hold the words FROM CLIP NAME";
+    // What follows is taken for a part of the event before it.
+    return "the events behind them are not read, and their names are taken for these events'";
+}
+
+template <class Event, class OtherEvent>
+bool isSame(const Event& written, const OtherEvent& read) {
+    const auto isKept = [](std::string_view text, std::string_view again, std::string_view empty) {
+        return again == (text.empty() ? empty : text);
+    };
+    return isKept(written.reelID, read.reelID, "AX") && isKept(written.track, read.track, "V") &&
+           written.clipName == read.clipName && written.sourceIn == read.sourceIn &&
+           written.sourceOut == read.sourceOut && written.recordIn == read.recordIn &&
+           written.recordOut == read.recordOut;
+}
+
+std::string joined(const std::map<std::string_view, std::size_t>& counts) {
+    std::vector<std::pair<std::string_view, std::size_t>> reasons(counts.begin(), counts.end());
+    std::ranges::stable_sort(reasons, std::ranges::greater(),
+                             [](const auto& reason) { return reason.second; });
+    std::string text;
+    for (const auto& [reason, count] : reasons) {
+        if (!text.empty()) text += ", ";
+        text += reason;
+    }
+    return text;
+}
+
+}  // namespace
+
+ReadAgain readAgain(const TimelineDocument& document, std::string_view edl) {
+    // Numbers are positions, so that the events which are read can be told from those which are
+    // not.
+    std::vector<bool> isKept(document.events.size());
+    const auto again = readEDL(edl);
+    for (const auto& event : again) {
+        const auto number = parseInteger(event.eventNumber);
+        if (!number || *number < 1) continue;
+        const auto row = static_cast<std::size_t>(*number - 1);
+        if (row < isKept.size() && isSame(document.events[row], event)) isKept[row] = true;
+    }
+    ReadAgain result;
+    result.events = document.events.size();
+    std::map<std::string_view, std::size_t> faults;
+    for (std::size_t row = 0; row < isKept.size(); ++row) {
+        if (isKept[row]) {
+            ++result.kept;
+        } else {
+            ++faults[faultOf(document.events[row])];
+        }
+    }
+    result.reasons = joined(faults);
+    return result;
+}
+
+}  // namespace clipvane::cli

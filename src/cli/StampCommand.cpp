@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
+#include <CLI/CLI.hpp>
+#include <string>
+
+#include "cli/Commands.h"
+#include "cli/Impossible.h"
+#include "cli/Output.h"
+#include "cli/OutputOptions.h"
+#include "cli/OutputPlan.h"
+#include "cli/ReadingOptions.h"
+#include "cli/Reason.h"
+#include "cli/Stamp.h"
+#include "cli/TimelineReading.h"
+
+namespace clipvane::cli {
+namespace {
+
+std::string ownName(const Input& input) {
+    return input.fileName().native();
+}
+
+/// Writes into EDLs at which rate they were written.
+class StampCommand : public Command {
+  public:
+    std::string name() const override { return "stamp"; }
+    std::string summary() const override { return "write into EDLs at which rate they count"; }
+    std::string examples() const override {
+        return "  clipvane-cli stamp --fps 25 -o stamped.edl cut.edl\n"
+               "  clipvane-cli stamp --fps 23.976 --in-place *.edl\n"
+               "  clipvane-cli stamp --fps 30 --restamp -d at30 wrong.edl\n";
+    }
+
+    void addOptions(CLI::App& app) override {
+        addFPSOption(app, reading);
+        app.get_option("--fps")->required();
+        addFromOption(app, reading, "edl");
+        addOutputOption(app, output, "write to FILE; \"-\" is standard output");
+        addFolderOption(app, output, "write into FOLDER, which is made, by the EDLs' names");
+        addInPlaceOption(app, output);
+        addForceOption(app, output);
+        app.add_flag("--restamp", restamp, "also where another rate is named");
+        addNames(app, reading, "EDL");
+    }
+
+    Status run(Session& session) override {
+        const auto inputs = inputsNamed(reading.names);
+        if (const auto misuse = misuseOf(inputs, reading)) return session.wrongUse(*misuse);
+        if (const auto misuse = misuseOf(output, inputs)) return session.wrongUse(*misuse);
+        const auto places = planOutputs(output, inputs, ownName, session);
+        for (std::size_t i = 0; i < inputs.size(); ++i) {
+            if (!places[i]) continue;
+            session.messages.progress(i, inputs.size(), inputs[i].name());
+            stamp(inputs[i], *places[i], session);
+        }
+        session.messages.clearProgress();
+        return session.statusOr(Status::ok);
+    }
+
+  private:
+    void stamp(const Input& input, const std::string& place, Session& session) const {
+        const auto content = readBytes(input, reading);
+        if (!content) return session.fail(input.title(), content.error());
+        if (content->format != TimelineFormat::edl) {
+            return session.fail(input.title(), because("is XML, and only an EDL is stamped"));
+        }
+        const std::string_view bytes = content->bytes.view();
+        const auto result = possibly([&] { return stamped(bytes, *reading.fps, restamp); });
+        if (!result) return session.fail(input.title(), result.error());
+        if (output.inPlace && result->text == bytes) return;
+        session.messages.clearProgress();
+        const auto existing = output.inPlace ? AtomicFile::Existing::replace : output.existing();
+        const auto written = writeOutput(place, existing, result->text);
+        if (!written) return session.fail(outputTitle(place), written.error());
+        if (result->showsHiddenEvent) {
+            session.note(outputTitle(place) +
+                         ": its first event, which a byte-order mark hid, is read now");
+        }
+    }
+
+    ReadingOptions reading;
+    OutputOptions output;
+    bool restamp = false;
+};
+
+}  // namespace
+
+std::unique_ptr<Command> makeStampCommand() {
+    return std::make_unique<StampCommand>();
+}
+
+}  // namespace clipvane::cli
