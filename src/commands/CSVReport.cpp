@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <string_view>
 
-#include "commands/ChunkedText.h"
+#include "commands/EventText.h"
 #include "timecode/FrameRate.h"
 #include "timecode/Timecode.h"
 
@@ -66,11 +66,19 @@ void appendRange(std::string& text, std::string_view in, std::string_view out, d
     appendDuration(text, in, out, fps);
 }
 
-Result<void> makeCSV(const TimelineDocument& document, const ChunkSink& sink) {
-    if (document.events.empty()) return sink(std::string(header) + '\n');
+/// The report as an `EventText`'s form.
+class CSV {
+  public:
+    explicit CSV(const TimelineDocument& document)
+        : rate(document.events.empty() ? "" : rateFields(document)), fps(document.fps) {}
 
-    const auto appendRow = [rate = rateFields(document), fps = document.fps](
-                               std::string& text, const TimelineEvent& event) {
+    std::string head() const {
+        std::string text(header);
+        if (rate.empty()) text += '\n';
+        return text;
+    }
+
+    void append(std::string& text, const auto& event) const {
         text += open;
         appendField(text, event.eventNumber);
         text += next;
@@ -88,22 +96,21 @@ Result<void> makeCSV(const TimelineDocument& document, const ChunkSink& sink) {
         text += event.highlighted ? "\",\"Yes\",\"" : "\",\"No\",\"";
         appendField(text, event.comments);
         text += close;
-    };
-    return makeChunks(header, document.events, appendRow, sink);
-}
+    }
 
-ChunkedText csv(const TimelineDocument& document) {
-    return [&](const ChunkSink& sink) { return makeCSV(document, sink); };
-}
+  private:
+    std::string rate;  ///< empty without events, which ask nothing of it
+    double fps;
+};
 
 }  // namespace
 
 std::string csvText(const TimelineDocument& document) {
-    return wholeText(csv(document));
+    return eventText<CSV>(document);
 }
 
 Result<void> writeCSV(const TimelineDocument& document, const std::filesystem::path& url) {
-    return writeText(csv(document), url);
+    return writeEventText<CSV>(document, url);
 }
 
 }  // namespace clipvane

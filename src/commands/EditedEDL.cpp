@@ -8,13 +8,13 @@
 #include <string_view>
 
 #include "base/Number.h"
-#include "commands/ChunkedText.h"
+#include "commands/EventText.h"
 
 namespace clipvane {
 namespace {
 
 // The line feed that ends the empty third line stands before the first event.
-constexpr std::string_view head =
+constexpr std::string_view firstLines =
     "TITLE: Clipvane Export\n"
     "FCM: NON-DROP FRAME\n";
 
@@ -31,7 +31,7 @@ void appendOneLine(std::string& text, std::string_view comment) {
     std::replace(text.begin() + static_cast<std::ptrdiff_t>(start), text.end(), '\n', ' ');
 }
 
-void appendEventLine(std::string& text, const TimelineEvent& event, std::int64_t number) {
+void appendEventLine(std::string& text, const auto& event, std::int64_t number) {
     appendPadded(text, number, 3);
     text += "  ";
     text += orElse(event.reelID, "AX");
@@ -48,9 +48,14 @@ void appendEventLine(std::string& text, const TimelineEvent& event, std::int64_t
     text += '\n';
 }
 
-Result<void> makeEDL(const TimelineDocument& document, const ChunkSink& sink) {
-    std::int64_t number = 0;
-    const auto appendEvent = [&](std::string& text, const TimelineEvent& event) {
+/// The EDL as an `EventText`'s form.
+class EDL {
+  public:
+    explicit EDL(const TimelineDocument&) {}
+
+    std::string_view head() const { return firstLines; }
+
+    void append(std::string& text, const auto& event) {
         text += '\n';
         appendEventLine(text, event, ++number);
         text += "* FROM CLIP NAME: ";
@@ -60,22 +65,20 @@ Result<void> makeEDL(const TimelineDocument& document, const ChunkSink& sink) {
         text += "* COMMENT: ";
         appendOneLine(text, event.comments);
         text += '\n';
-    };
-    return makeChunks(head, document.events, appendEvent, sink);
-}
+    }
 
-ChunkedText edl(const TimelineDocument& document) {
-    return [&](const ChunkSink& sink) { return makeEDL(document, sink); };
-}
+  private:
+    std::int64_t number = 0;
+};
 
 }  // namespace
 
 std::string edlText(const TimelineDocument& document) {
-    return wholeText(edl(document));
+    return eventText<EDL>(document);
 }
 
 Result<void> writeEDL(const TimelineDocument& document, const std::filesystem::path& url) {
-    return writeText(edl(document), url);
+    return writeEventText<EDL>(document, url);
 }
 
 }  // namespace clipvane

@@ -12,7 +12,7 @@
 
 #include "base/SystemCalls.h"
 #include "commands/CSVReport.h"
-#include "commands/ChunkedText.h"
+#include "commands/EventText.h"
 #include "commands/EditedEDL.h"
 #include "support/RowName.h"
 #include "support/Scale.h"
