@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
+#include "commands/diff/CutList.h"
+
+#include <algorithm>
+#include <string_view>
+
+namespace clipvane::diff {
+namespace {
+
+bool isBlack(const TimelineEvent& event) {
+    if (event.format == "EDL") return event.reelID == "BL" || event.reelID == "BLK";
+    return event.rawText == "gap";
+}
+
+std::string_view givenName(const TimelineEvent& event) {
+    constexpr std::string_view standIn = "Clip ";
+    const std::string_view name = event.clipName;
+    const bool standsIn =
+        name.starts_with(standIn) && name.substr(standIn.size()) == event.eventNumber;
+    return standsIn ? std::string_view() : name;
+}
+
+}  // namespace
+
+std::vector<ListedEvent> listEvents(const CutList& list, TextNumbers& numbers) {
+    std::vector<ListedEvent> listed;
+    listed.reserve(list.events.size());
+    std::uint32_t row = 0;
+    for (const auto& event : list.events) {
+        const std::uint32_t here = row++;
+        if (isBlack(event)) continue;
+        ListedEvent& result = listed.emplace_back();
+        result.row = here;
+        result.reel = numbers.of(event.reelID);
+        result.name = numbers.of(givenName(event));
+        result.track = numbers.of(event.track);
+        const std::array<std::string_view, 4> texts{event.sourceIn, event.sourceOut, event.recordIn,
+                                                    event.recordOut};
+        std::ranges::transform(texts, result.times.begin(), [&](std::string_view text) {
+            return countFrames(text, list.counting);
+        });
+        const auto& times = result.times;
+        const bool isOdd = !std::ranges::all_of(times, [](const auto& t) { return t.has_value(); });
+        if (isOdd || *times[3] < *times[2]) {
+            std::ranges::transform(texts, result.timecodes.begin(),
+                                   [&](std::string_view text) { return numbers.of(text); });
+        }
+    }
+    return listed;
+}
+
+bool isFromEDL(const CutList& list) {
+    return std::ranges::all_of(list.events,
+                               [](const auto& event) { return event.format == "EDL"; });
+}
+
+}  // namespace clipvane::diff

@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "commands/diff/CutEvent.h"
+#include "commands/diff/CutList.h"
+
+namespace clipvane::diff {
+
+/// What tells one source from another.
+enum class By { reel, name, reelAndName };
+
+/// Two lists made comparable: their events with the same numbers for the same texts.
+struct CutPair {
+    Cut oldCut;
+    Cut newCut;
+    By by = By::reel;
+    bool comparesTracks = true;       ///< false when the lists have no track text in common
+    std::vector<std::string> tracks;  ///< the text of each track's number, by NEW, then OLD
+};
+
+/// Takes what is comparable from two lists. Without `by` it is the reel if both are EDLs, else the
+/// name. A reel that says nothing is told apart by the name as well: "AX", an empty one, and one
+/// that is the only reel of a list with several names. By name, an event without one falls back on
+/// its reel.
+CutPair makeComparable(const CutList& oldList, const CutList& newList, std::optional<By> by);
+
+}  // namespace clipvane::diff

@@ -1,0 +1,178 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
+#include "commands/diff/Description.h"
+
+#include <algorithm>
+#include <tuple>
+
+#include "commands/diff/Trims.h"
+#include "commands/diff/Unpaired.h"
+
+namespace clipvane::diff {
+namespace {
+
+std::vector<Stretch> pairedOfNew(const std::vector<Run>& runs) {
+    std::vector<Stretch> paired;
+    paired.reserve(runs.size());
+    for (const Run& run : runs) paired.push_back({run.newEvent, run.from, run.to});
+    return paired;
+}
+
+std::vector<Stretch> pairedOfOld(const std::vector<Run>& runs) {
+    std::vector<Stretch> paired;
+    paired.reserve(runs.size());
+    for (const Run& run : runs) paired.push_back({run.oldEvent, run.from, run.to});
+    std::ranges::sort(paired, [](const Stretch& a, const Stretch& b) {
+        return std::tuple(a.event, a.from) < std::tuple(b.event, b.from);
+    });
+    return paired;
+}
+
+Word wordForUnpartnered(const CutEvent& event, const Unpaired& unpaired, Word lacking,
+                        Word further) {
+    if (!event.hasFrames()) return Word::notCompared;
+    return unpaired.lacking > 0 ? lacking : further;
+}
+
+class NewDescriber {
+  public:
+    NewDescriber(const Cut& oldCut, const Cut& newCut, const Partners& partners,
+                 const std::vector<TrackChain>& chains)
+        : oldCut(oldCut),
+          newCut(newCut),
+          partners(partners),
+          trims(findTrims(oldCut, newCut, partners)),
+          isMoved(newCut.size()),
+          pieceOf(newCut.size()) {
+        for (const TrackChain& track : chains) {
+            for (const std::uint32_t n : track.moved) isMoved[n] = true;
+        }
+        for (std::uint32_t o = 0; o < oldCut.size(); ++o) {
+            std::uint32_t piece = 0;
+            for (const Partnership& p : partners.ofOld(o)) {
+                ++piece;
+                if (first(p.newEvent).oldEvent == o) pieceOf[p.newEvent] = piece;
+            }
+        }
+    }
+
+    NewEvent describe(std::uint32_t n, const Unpaired& unpaired) const {
+        const CutEvent& event = newCut[n];
+        const auto all = partners.ofNew(n);
+        NewEvent result;
+        result.row = event.row;
+        result.track = event.track;
+        result.newFrames = unpaired.lacking;
+        result.againFrames = unpaired.further;
+        result.elsewhereFrames = event.frames() - unpaired.lacking - unpaired.further;
+        for (const Partnership& p : all) result.elsewhereFrames -= p.frames;
+        if (all.empty()) {
+            result.words.add(wordForUnpartnered(event, unpaired, Word::added, Word::again));
+            return result;
+        }
+        result.partner = oldCut[all.front().oldEvent].row;
+        describePieces(result, n);
+        describeContent(result, n);
+        describePlace(result, n);
+        describeName(result, n);
+        if (result.words.empty()) {
+            const bool isWhole = all.front().frames == event.frames();
+            result.words.add(isWhole ? Word::same : Word::partly);
+        }
+        return result;
+    }
+
+  private:
+    const Partnership& first(std::uint32_t n) const { return partners.ofNew(n).front(); }
+    const CutEvent& partnerOf(std::uint32_t n) const { return oldCut[first(n).oldEvent]; }
+
+    void describePieces(NewEvent& result, std::uint32_t n) const {
+        result.piece = pieceOf[n];
+        result.pieces = static_cast<std::uint32_t>(partners.ofOld(first(n).oldEvent).size());
+        result.parts = static_cast<std::uint32_t>(partners.ofNew(n).size());
+        if (result.pieces > 1) result.words.add(Word::split);
+        if (result.parts > 1) result.words.add(Word::joined);
+    }
+
+    bool isSlipped(const NewEvent& result, std::uint32_t n) const {
+        const CutEvent& event = newCut[n];
+        const CutEvent& partner = partnerOf(n);
+        return result.pieces == 1 && result.parts == 1 && event.kind == Kind::plain &&
+               event.frames() == partner.frames() && event.sourceIn != partner.sourceIn &&
+               shiftBetween(partner, event) != 0;
+    }
+
+    void describeContent(NewEvent& result, std::uint32_t n) const {
+        if (first(n).isRetimed) {
+            result.words.add(Word::retimed);
+        } else if (isSlipped(result, n)) {
+            result.words.add(Word::slipped);
+            result.sourceShift = newCut[n].sourceIn - partnerOf(n).sourceIn;
+        } else if (trims[n].head != 0 || trims[n].tail != 0 || trims[n].inside != 0) {
+            result.words.add(Word::trimmed);
+            result.head = trims[n].head;
+            result.tail = trims[n].tail;
+            result.inside = trims[n].inside;
+        }
+    }
+
+    void describePlace(NewEvent& result, std::uint32_t n) const {
+        const CutEvent& event = newCut[n];
+        const CutEvent& partner = partnerOf(n);
+        const bool byInPoint = result.words.has(Word::slipped) || result.words.has(Word::retimed);
+        result.shift = byInPoint ? subtractChecked(event.recordIn, partner.recordIn)
+                                 : shiftBetween(partner, event);
+        if (event.track != partner.track) {
+            result.words.add(Word::otherTrack);
+        } else if (result.shift != 0) {
+            result.words.add(isMoved[n] ? Word::moved : Word::shifted);
+        }
+    }
+
+    void describeName(NewEvent& result, std::uint32_t n) const {
+        const std::uint32_t name = newCut[n].name;
+        const std::uint32_t before = partnerOf(n).name;
+        if (name != before && name != 0 && before != 0) result.words.add(Word::renamed);
+    }
+
+    const Cut& oldCut;
+    const Cut& newCut;
+    const Partners& partners;
+    std::vector<Trim> trims;
+    std::vector<bool> isMoved;
+    std::vector<std::uint32_t> pieceOf;  // which piece of its partner an event is, from 1
+};
+
+}  // namespace
+
+std::vector<NewEvent> describeNew(const Cut& oldCut, const Cut& newCut,
+                                  const std::vector<Run>& runs, const Partners& partners,
+                                  const std::vector<TrackChain>& chains) {
+    const auto unpaired = countUnpaired(newCut, pairedOfNew(runs), oldCut);
+    const NewDescriber describer(oldCut, newCut, partners, chains);
+    std::vector<NewEvent> all;
+    all.reserve(newCut.size());
+    for (std::uint32_t n = 0; n < newCut.size(); ++n) {
+        all.push_back(describer.describe(n, unpaired[n]));
+    }
+    return all;
+}
+
+std::vector<OldEvent> describeOld(const Cut& oldCut, const Cut& newCut,
+                                  const std::vector<Run>& runs, const Partners& partners) {
+    const auto unpaired = countUnpaired(oldCut, pairedOfOld(runs), newCut);
+    std::vector<OldEvent> all;
+    all.reserve(oldCut.size());
+    for (std::uint32_t o = 0; o < oldCut.size(); ++o) {
+        const CutEvent& event = oldCut[o];
+        OldEvent result{event.row, event.track, {}, unpaired[o].lacking, unpaired[o].further};
+        if (partners.ofOld(o).empty()) {
+            result.words.add(wordForUnpartnered(event, unpaired[o], Word::gone, Word::fewer));
+        }
+        all.push_back(result);
+    }
+    return all;
+}
+
+}  // namespace clipvane::diff

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <vector>
+
+#include "commands/diff/CutEvent.h"
+
+namespace clipvane::diff {
+
+/// A stretch of an event's content.
+struct Stretch {
+    std::uint32_t event = 0;  ///< index into its cut
+    std::int64_t from = 0;
+    std::int64_t to = 0;
+};
+
+/// What of a cut is not paired yet: longest stretches, by event, then position.
+class FreeStretches {
+  public:
+    explicit FreeStretches(const Cut& cut);
+
+    /// Takes away `taken`: parts of the free stretches in the same order, each within one.
+    void take(std::span<const Stretch> taken);
+
+    const std::vector<Stretch>& stretches() const { return free; }
+    bool empty() const { return free.empty(); }
+
+  private:
+    std::vector<Stretch> free;
+};
+
+}  // namespace clipvane::diff

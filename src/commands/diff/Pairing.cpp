@@ -1,0 +1,175 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
+#include "commands/diff/Pairing.h"
+
+#include <algorithm>
+#include <optional>
+#include <tuple>
+#include <utility>
+
+#include "commands/diff/FreeStretches.h"
+#include "commands/diff/NeighbourShift.h"
+#include "commands/diff/SureRounds.h"
+#include "commands/diff/Sweep.h"
+
+namespace clipvane::diff {
+namespace {
+
+enum class Tracks { same, any };
+
+bool comesBefore(const Run& a, const Run& b) {
+    return std::tuple(a.newEvent, a.from) < std::tuple(b.newEvent, b.from);
+}
+
+std::vector<Stretch> oldStretches(const std::vector<Run>& runs) {
+    std::vector<Stretch> stretches;
+    stretches.reserve(runs.size());
+    for (const Run& run : runs) stretches.push_back({run.oldEvent, run.from, run.to});
+    std::ranges::sort(stretches, [](const Stretch& a, const Stretch& b) {
+        return std::tuple(a.event, a.from) < std::tuple(b.event, b.from);
+    });
+    return stretches;
+}
+
+std::vector<Stretch> newStretches(const std::vector<Run>& runs) {
+    std::vector<Stretch> stretches;
+    stretches.reserve(runs.size());
+    for (const Run& run : runs) stretches.push_back({run.newEvent, run.from, run.to});
+    return stretches;
+}
+
+class Rounds {
+  public:
+    Rounds(const Cut& oldCut, const Cut& newCut)
+        : oldCut(oldCut), newCut(newCut), oldFree(oldCut), newFree(newCut) {}
+
+    void pairSurely() {
+        SureRounds sure(oldCut, newCut);
+        keep(sure.pairUnchanged());
+        keep(sure.pairUnique());
+    }
+
+    /// At the shift of the nearest paired frame.
+    void pairBeside(Neighbour neighbour) {
+        if (isDone()) return;
+        const auto& free = newFree.stretches();
+        const auto shifts = neighbourShifts(oldCut, newCut, runs, free, neighbour);
+        std::vector<Candidate> news;
+        for (std::size_t i = 0; i < free.size(); ++i) {
+            const CutEvent& event = newCut[free[i].event];
+            if (!event.hasPlace() || !shifts[i]) continue;
+            const std::int64_t offsetInOld = subtractChecked(event.offset(), *shifts[i]);
+            news.push_back({{event.content, event.track, offsetInOld, 0}, free[i]});
+        }
+        pair(inPlace(oldCut, oldFree, Tracks::same), std::move(news));
+    }
+
+    void pairInPlace(Tracks tracks) {
+        if (isDone()) return;
+        pair(inPlace(oldCut, oldFree, tracks), inPlace(newCut, newFree, tracks));
+    }
+
+    void pairWholeEvents(Tracks tracks) {
+        if (isDone()) return;
+        pair(wholeEvents(oldCut, oldFree, tracks), wholeEvents(newCut, newFree, tracks));
+    }
+
+    void pairRest(Tracks tracks) {
+        if (isDone()) return;
+        pair(all(oldCut, oldFree, tracks), all(newCut, newFree, tracks));
+    }
+
+    std::vector<Run> result() && {
+        std::vector<Run> joined;
+        for (const Run& run : runs) {
+            const bool continues = !joined.empty() && joined.back().newEvent == run.newEvent &&
+                                   joined.back().oldEvent == run.oldEvent &&
+                                   joined.back().to == run.from;
+            if (continues) {
+                joined.back().to = run.to;
+            } else {
+                joined.push_back(run);
+            }
+        }
+        return joined;
+    }
+
+  private:
+    bool isDone() const { return oldFree.empty() || newFree.empty(); }
+
+    static std::uint32_t trackOf(const CutEvent& event, Tracks tracks) {
+        return tracks == Tracks::same ? event.track : 0;
+    }
+
+    static std::vector<Candidate> inPlace(const Cut& cut, const FreeStretches& free,
+                                          Tracks tracks) {
+        std::vector<Candidate> candidates;
+        for (const Stretch& stretch : free.stretches()) {
+            const CutEvent& event = cut[stretch.event];
+            if (!event.hasPlace()) continue;
+            candidates.push_back(
+                {{event.content, trackOf(event, tracks), event.offset(), 0}, stretch});
+        }
+        return candidates;
+    }
+
+    static std::vector<Candidate> wholeEvents(const Cut& cut, const FreeStretches& free,
+                                              Tracks tracks) {
+        std::vector<Candidate> candidates;
+        for (const Stretch& stretch : free.stretches()) {
+            const CutEvent& event = cut[stretch.event];
+            if (stretch.from != event.from() || stretch.to != event.to()) continue;
+            candidates.push_back(
+                {{event.content, trackOf(event, tracks), stretch.from, stretch.to}, stretch});
+        }
+        return candidates;
+    }
+
+    static std::vector<Candidate> all(const Cut& cut, const FreeStretches& free, Tracks tracks) {
+        std::vector<Candidate> candidates;
+        for (const Stretch& stretch : free.stretches()) {
+            const CutEvent& event = cut[stretch.event];
+            candidates.push_back({{event.content, trackOf(event, tracks), 0, 0}, stretch});
+        }
+        return candidates;
+    }
+
+    void pair(std::vector<Candidate> olds, std::vector<Candidate> news) {
+        std::vector<Run> found;
+        sweep(std::move(olds), std::move(news), found);
+        keep(std::move(found));
+    }
+
+    void keep(std::vector<Run> found) {
+        std::ranges::sort(found, comesBefore);
+        oldFree.take(oldStretches(found));
+        newFree.take(newStretches(found));
+        const auto middle = static_cast<std::ptrdiff_t>(runs.size());
+        runs.insert(runs.end(), found.begin(), found.end());
+        std::inplace_merge(runs.begin(), runs.begin() + middle, runs.end(), comesBefore);
+    }
+
+    const Cut& oldCut;
+    const Cut& newCut;
+    FreeStretches oldFree;
+    FreeStretches newFree;
+    std::vector<Run> runs;  // by event of NEW, then position
+};
+
+}  // namespace
+
+std::vector<Run> pairFrames(const Cut& oldCut, const Cut& newCut) {
+    Rounds rounds(oldCut, newCut);
+    rounds.pairSurely();
+    rounds.pairBeside(Neighbour::before);
+    rounds.pairBeside(Neighbour::behind);
+    for (const Tracks tracks : {Tracks::same, Tracks::any}) {
+        rounds.pairInPlace(tracks);
+        rounds.pairWholeEvents(tracks);
+        rounds.pairRest(tracks);
+    }
+    return std::move(rounds).result();
+}
+
+}  // namespace clipvane::diff

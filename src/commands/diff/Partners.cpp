@@ -1,0 +1,156 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
+#include "commands/diff/Partners.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <tuple>
+#include <utility>
+
+#include "commands/diff/Retimed.h"
+
+namespace clipvane::diff {
+namespace {
+
+/// Where the elements of each of `count` owners begin in `sorted`, and where the last ones end.
+template <class OwnerOf>
+std::vector<std::uint32_t> startsOf(const std::vector<Partnership>& sorted, std::size_t count,
+                                    OwnerOf ownerOf) {
+    std::vector<std::uint32_t> starts(count + 1);
+    for (const Partnership& p : sorted) ++starts[ownerOf(p) + 1];
+    for (std::size_t i = 0; i < count; ++i) starts[i + 1] += starts[i];
+    return starts;
+}
+
+/// What two events share, all of it: one for each two that have a run in common.
+std::vector<Partnership> sharedBy(const std::vector<Run>& runs, const Cut& newCut) {
+    std::vector<Partnership> shared;
+    shared.reserve(runs.size());
+    for (const Run& run : runs) {
+        shared.push_back({run.newEvent, run.oldEvent, false,
+                          newCut[run.newEvent].framesOf(run.to - run.from), run.from, run.to});
+    }
+    std::ranges::stable_sort(shared, [](const Partnership& a, const Partnership& b) {
+        return std::tuple(a.newEvent, a.oldEvent) < std::tuple(b.newEvent, b.oldEvent);
+    });
+    std::vector<Partnership> merged;
+    merged.reserve(shared.size());
+    for (const Partnership& p : shared) {
+        const bool isSame = !merged.empty() && merged.back().newEvent == p.newEvent &&
+                            merged.back().oldEvent == p.oldEvent;
+        if (isSame) {
+            merged.back().frames += p.frames;
+            merged.back().to = p.to;
+        } else {
+            merged.push_back(p);
+        }
+    }
+    return merged;
+}
+
+class Finder {
+  public:
+    Finder(const Cut& oldCut, const Cut& newCut, const std::vector<Run>& runs)
+        : oldCut(oldCut), newCut(newCut), shared(sharedBy(runs, newCut)) {}
+
+    Partners find() {
+        findBest();
+        std::vector<Partnership> all;
+        for (const Partnership& p : shared) {
+            if (arePartners(p)) all.push_back(p);
+        }
+        addRetimed(all);
+        return arranged(std::move(all));
+    }
+
+  private:
+    bool arePartners(const Partnership& p) const {
+        const CutEvent& o = oldCut[p.oldEvent];
+        const CutEvent& n = newCut[p.newEvent];
+        const std::int64_t both =
+            n.framesOf(std::min(o.to(), n.to()) - std::max(o.from(), n.from()));
+        const auto isHalfOf = [&](std::int64_t whole) { return p.frames >= whole - p.frames; };
+        if (!isHalfOf(both)) return false;
+        if (isHalfOf(std::min(o.frames(), n.frames()))) return true;
+        return bestOfNew[p.newEvent] == &p && bestOfOld[p.oldEvent] == &p;
+    }
+
+    auto rank(const Partnership& p) const {
+        const CutEvent& o = oldCut[p.oldEvent];
+        const CutEvent& n = newCut[p.newEvent];
+        const std::int64_t shift = shiftBetween(o, n);
+        return std::tuple(-p.frames, o.track != n.track,
+                          shift < 0 ? subtractChecked(0, shift) : shift);
+    }
+
+    /// Looks at the shared in the order of NEW, then OLD, so that the earliest stays the best.
+    void findBest() {
+        bestOfNew.assign(newCut.size(), nullptr);
+        bestOfOld.assign(oldCut.size(), nullptr);
+        for (const Partnership& p : shared) {
+            for (const Partnership** best : {&bestOfNew[p.newEvent], &bestOfOld[p.oldEvent]}) {
+                if (*best == nullptr || rank(p) < rank(**best)) *best = &p;
+            }
+        }
+    }
+
+    void addRetimed(std::vector<Partnership>& all) const {
+        std::vector<bool> oldTaken(oldCut.size());
+        std::vector<bool> newTaken(newCut.size());
+        for (const Partnership& p : all) oldTaken[p.oldEvent] = newTaken[p.newEvent] = true;
+        const auto free = [](const Cut& cut, const std::vector<bool>& taken) {
+            std::vector<std::uint32_t> events;
+            for (std::uint32_t i = 0; i < cut.size(); ++i) {
+                if (!taken[i] && cut[i].hasFrames()) events.push_back(i);
+            }
+            return events;
+        };
+        for (const auto& [n, o] :
+             pairRetimed(oldCut, newCut, free(oldCut, oldTaken), free(newCut, newTaken))) {
+            all.push_back({n, o, true, 0, 0, 0});
+        }
+    }
+
+    Partners arranged(std::vector<Partnership> all) const {
+        std::ranges::sort(all, [&](const Partnership& a, const Partnership& b) {
+            return std::tuple(a.newEvent, oldCut[a.oldEvent].sourceLow(), a.oldEvent) <
+                   std::tuple(b.newEvent, oldCut[b.oldEvent].sourceLow(), b.oldEvent);
+        });
+        std::vector<Partnership> byOld = all;
+        std::ranges::sort(byOld, [&](const Partnership& a, const Partnership& b) {
+            return std::tuple(a.oldEvent, newCut[a.newEvent].sourceLow(), a.newEvent) <
+                   std::tuple(b.oldEvent, newCut[b.newEvent].sourceLow(), b.newEvent);
+        });
+        return Partners(oldCut.size(), newCut.size(), std::move(all), std::move(byOld));
+    }
+
+    const Cut& oldCut;
+    const Cut& newCut;
+    std::vector<Partnership> shared;
+    std::vector<const Partnership*> bestOfNew;
+    std::vector<const Partnership*> bestOfOld;
+};
+
+}  // namespace
+
+Partners::Partners(std::size_t oldCount, std::size_t newCount, std::vector<Partnership> inNewOrder,
+                   std::vector<Partnership> inOldOrder)
+    : byNew(std::move(inNewOrder)),
+      byOld(std::move(inOldOrder)),
+      newStarts(startsOf(byNew, newCount, [](const Partnership& p) { return p.newEvent; })),
+      oldStarts(startsOf(byOld, oldCount, [](const Partnership& p) { return p.oldEvent; })) {}
+
+std::span<const Partnership> Partners::ofNew(std::uint32_t event) const {
+    return std::span(byNew).subspan(newStarts[event], newStarts[event + 1] - newStarts[event]);
+}
+
+std::span<const Partnership> Partners::ofOld(std::uint32_t event) const {
+    return std::span(byOld).subspan(oldStarts[event], oldStarts[event + 1] - oldStarts[event]);
+}
+
+Partners findPartners(const Cut& oldCut, const Cut& newCut, const std::vector<Run>& runs) {
+    return Finder(oldCut, newCut, runs).find();
+}
+
+}  // namespace clipvane::diff

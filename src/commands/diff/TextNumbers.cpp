@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
+#include "commands/diff/TextNumbers.h"
+
+#include <unicode/bytestream.h>
+#include <unicode/normalizer2.h>
+
+#include "base/UTF8.h"
+
+namespace clipvane::diff {
+namespace {
+
+/// The text in normalization form D, which canonically equivalent texts have in common. The text
+/// itself where that cannot be had.
+std::string normalized(std::string_view text) {
+    std::string result;
+    UErrorCode error = U_ZERO_ERROR;
+    const icu::Normalizer2* const form = icu::Normalizer2::getNFDInstance(error);
+    if (U_FAILURE(error)) return std::string(text);
+    icu::StringByteSink<std::string> sink(&result);
+    form->normalizeUTF8(0, {text.data(), static_cast<std::int32_t>(text.size())}, sink, nullptr,
+                        error);
+    return U_SUCCESS(error) ? result : std::string(text);
+}
+
+}  // namespace
+
+std::uint32_t TextNumbers::of(std::string_view text) {
+    return isASCII(text) ? numberOf(text) : numberOf(normalized(text));
+}
+
+std::uint32_t TextNumbers::numberOf(std::string_view text) {
+    if (const auto found = numbers.find(text); found != numbers.end()) return found->second;
+    const auto next = static_cast<std::uint32_t>(numbers.size());
+    numbers.emplace(text, next);
+    return next;
+}
+
+}  // namespace clipvane::diff

@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+namespace clipvane::diff {
+
+/// Gives texts numbers: equal ones for canonically equivalent texts. The empty text is 0. Texts are
+/// UTF-8.
+class TextNumbers {
+  public:
+    std::uint32_t of(std::string_view text);
+
+  private:
+    struct Hash : std::hash<std::string_view> {
+        using is_transparent = void;
+    };
+
+    std::uint32_t numberOf(std::string_view text);
+
+    std::unordered_map<std::string, std::uint32_t, Hash, std::equal_to<>> numbers{{"", 0}};
+};
+
+}  // namespace clipvane::diff

@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
+#include "commands/diff/Trims.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace clipvane::diff {
+namespace {
+
+/// What pieces cover from the first one's beginning on, as they are added in source order.
+class Reach {
+  public:
+    /// How far a piece begins behind what is covered: negative by what it repeats.
+    std::int64_t add(const CutEvent& piece, std::uint32_t index) {
+        if (!end) {
+            end = piece.to();
+            furthest = index;
+            return 0;
+        }
+        const std::int64_t gap = piece.from() - std::min(*end, piece.to());
+        if (piece.to() > *end) {
+            end = piece.to();
+            furthest = index;
+        }
+        return gap;
+    }
+
+    std::uint32_t furthestPiece() const { return furthest; }
+
+  private:
+    std::optional<std::int64_t> end;
+    std::uint32_t furthest = 0;  // the first that reaches the end
+};
+
+class Finder {
+  public:
+    Finder(const Cut& oldCut, const Cut& newCut, const Partners& partners)
+        : oldCut(oldCut),
+          newCut(newCut),
+          partners(partners),
+          trims(newCut.size()),
+          lastPart(newCut.size()) {}
+
+    std::vector<Trim> find() && {
+        for (std::uint32_t n = 0; n < newCut.size(); ++n) lookInside(n);
+        for (std::uint32_t o = 0; o < oldCut.size(); ++o) lookAtPieces(o);
+        return std::move(trims);
+    }
+
+  private:
+    void lookInside(std::uint32_t n) {
+        Reach reach;
+        for (const Partnership& part : partners.ofNew(n)) {
+            if (part.isRetimed) return;
+            trims[n].inside += reach.add(oldCut[part.oldEvent], part.oldEvent);
+        }
+        lastPart[n] = reach.furthestPiece();
+    }
+
+    void lookAtPieces(std::uint32_t o) {
+        const auto pieces = partners.ofOld(o);
+        if (pieces.empty() || pieces.front().isRetimed) return;
+        Reach reach;
+        for (const Partnership& piece : pieces) {
+            const std::uint32_t n = piece.newEvent;
+            const std::int64_t gap = reach.add(newCut[n], n);
+            if (partners.ofNew(n).front().oldEvent != o) continue;
+            const bool isFirst = n == pieces.front().newEvent;
+            trims[n].head = isFirst ? oldCut[o].from() - newCut[n].from() : -gap;
+        }
+        const std::uint32_t last = reach.furthestPiece();
+        if (lastPart[last] == o) trims[last].tail = newCut[last].to() - oldCut[o].to();
+    }
+
+    const Cut& oldCut;
+    const Cut& newCut;
+    const Partners& partners;
+    std::vector<Trim> trims;
+    std::vector<std::uint32_t> lastPart;  // of OLD, where an event of NEW has partners
+};
+
+}  // namespace
+
+std::vector<Trim> findTrims(const Cut& oldCut, const Cut& newCut, const Partners& partners) {
+    return Finder(oldCut, newCut, partners).find();
+}
+
+}  // namespace clipvane::diff

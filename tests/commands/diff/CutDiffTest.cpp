@@ -1,0 +1,130 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
+#include "commands/diff/CutDiff.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "commands/diff/Cuts.h"
+#include "support/RowName.h"
+
+namespace clipvane::test {
+namespace {
+
+/// "of 1" is the partner's row in OLD, from 0; the numbers in brackets are frames new, again, and
+/// paired elsewhere, or gone and fewer.
+struct Case {
+    std::string_view name;
+    std::vector<Row> oldRows;
+    std::vector<Row> newRows;
+    std::vector<std::string> report;
+    std::int64_t longer = 0;
+};
+
+class CutDiff : public testing::TestWithParam<Case> {};
+
+TEST_P(CutDiff, ReportsWhatWasDone) {
+    const auto oldEvents = eventsOf(GetParam().oldRows);
+    const auto newEvents = eventsOf(GetParam().newRows);
+    const auto diff = diff::compareCuts({oldEvents, at25}, {newEvents, at25});
+    EXPECT_EQ(reportOf(diff, oldEvents, newEvents), GetParam().report);
+    EXPECT_EQ(diff.sums.longer, GetParam().longer);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Edits, CutDiff,
+    testing::Values(
+        Case{"Insert",
+             {cut("A", 0, 50, 0), cut("B", 0, 50, 50)},
+             {cut("A", 0, 50, 0), cut("X", 0, 12, 50), cut("B", 0, 50, 62)},
+             {"X new (12 0 0)", "B of 1 shifted 12 (0 0 0)"},
+             12},
+        Case{"HeadTrimRippled",
+             {cut("A", 0, 50, 0), cut("B", 0, 50, 50), cut("C", 0, 50, 100)},
+             {cut("A", 0, 50, 0), cut("B", 10, 50, 50), cut("C", 0, 50, 90)},
+             {"B of 1 trimmed -10 0 0 shifted -10 (0 0 0)", "C of 2 shifted -10 (0 0 0)"},
+             -10},
+        Case{"Roll",
+             {cut("A", 0, 50, 0), cut("B", 100, 150, 50)},
+             {cut("A", 0, 55, 0), cut("B", 105, 150, 55)},
+             {"A of 0 trimmed 0 5 0 (5 0 0)", "B of 1 trimmed -5 0 0 (0 0 0)"}},
+        Case{"Slip",
+             {cut("A", 0, 50, 0), cut("B", 100, 150, 50)},
+             {cut("A", 0, 50, 0), cut("B", 107, 157, 50)},
+             {"B of 1 slipped 7 (7 0 0)"}},
+        Case{"Swap",
+             {cut("A", 0, 50, 0), cut("B", 0, 20, 50), cut("C", 0, 50, 70)},
+             {cut("B", 0, 20, 0), cut("A", 0, 50, 20), cut("C", 0, 50, 70)},
+             {"B of 1 moved -50 (0 0 0)", "A of 0 shifted 20 (0 0 0)"}},
+        Case{"SplitAndCutOut",
+             {cut("A", 0, 100, 0), cut("B", 0, 50, 100)},
+             {cut("A", 0, 40, 0), cut("A", 52, 100, 40), cut("B", 0, 50, 88)},
+             {"A of 0 split 1/2 (0 0 0)", "A of 0 split 2/2 trimmed -12 0 0 shifted -12 (0 0 0)",
+              "B of 1 shifted -12 (0 0 0)"},
+             -12},
+        Case{"Joined",
+             {cut("A", 0, 40, 0), cut("X", 0, 10, 40), cut("A", 40, 100, 50)},
+             {cut("A", 0, 100, 0)},
+             {"A of 0 joined 2 (0 0 0)", "X gone (10 0)"},
+             -10},
+        Case{"Again",
+             {cut("A", 0, 50, 0), cut("B", 0, 50, 50)},
+             {cut("A", 0, 50, 0), cut("B", 0, 50, 50), cut("A", 10, 30, 100)},
+             {"A again (0 20 0)"},
+             20},
+        Case{"Fewer",
+             {cut("A", 0, 50, 0), cut("B", 0, 50, 50), cut("A", 0, 50, 100)},
+             {cut("B", 0, 50, 0), cut("A", 0, 50, 50)},
+             {"A fewer (0 50)", "B of 1 shifted -50 (0 0 0)", "A of 2 shifted -50 (0 0 0)"},
+             -50},
+        Case{"Mixed",
+             {cut("A", 0, 50, 0), cut("B", 0, 50, 50), cut("C", 0, 50, 100), cut("D", 0, 50, 150)},
+             {{"A", 0, 100, 0, 50},
+              cut("B", 0, 50, 50, "V2"),
+              cut("X", 0, 50, 100),
+              cut("D", 0, 50, 150)},
+             {"A of 0 retimed (50 0 0)", "C gone (50 0)", "X new (50 0 0) in place of 2",
+              "black 50", "B of 1 track 0 (0 0 0)"}},
+        Case{"Lift",
+             {cut("A", 0, 50, 0), cut("B", 0, 50, 50), cut("C", 0, 50, 100)},
+             {cut("A", 0, 50, 0), cut("C", 0, 50, 100)},
+             {"B gone (50 0)", "black 50"}},
+        Case{"BlackAdded",
+             {cut("A", 0, 50, 0), cut("B", 0, 50, 50)},
+             {cut("A", 0, 50, 0), cut("BL", 0, 10, 50), cut("B", 0, 50, 60)},
+             {"black 10", "B of 1 shifted 10 (0 0 0)"},
+             10},
+        Case{"JoinedOverBlack",
+             {cut("A", 0, 40, 0), cut("A", 40, 100, 50), cut("B", 0, 50, 110)},
+             {cut("A", 0, 100, 0), cut("B", 0, 50, 100)},
+             {"black -10", "A of 0 joined 2 (0 0 0)", "B of 2 shifted -10 (0 0 0)"},
+             -10},
+        Case{"JoinedWithMoreInside",
+             {cut("A", 0, 40, 0), cut("A", 52, 100, 40), cut("B", 0, 50, 88)},
+             {cut("A", 0, 100, 0), cut("B", 0, 50, 100)},
+             {"A of 0 joined 2 trimmed 0 0 12 (12 0 0)", "B of 2 shifted 12 (0 0 0)"},
+             12},
+        Case{"HalvesSwapped",
+             {cut("A", 0, 100, 0)},
+             {cut("A", 60, 100, 0), cut("A", 0, 60, 40)},
+             {"A of 0 split 2/2 moved -60 (0 0 0)", "A of 0 split 1/2 shifted 40 (0 0 0)"}},
+        Case{"SlippedAndPushedAlong",
+             {cut("A", 0, 50, 0), cut("B", 100, 150, 50)},
+             {cut("X", 0, 12, 0), cut("A", 0, 50, 12), cut("B", 107, 157, 62)},
+             {"X new (12 0 0)", "A of 0 shifted 12 (0 0 0)", "B of 1 slipped 7 shifted 12 (7 0 0)"},
+             12},
+        Case{"BothCutsRolled",
+             {cut("A", 0, 50, 0), cut("B", 100, 150, 50), cut("C", 20, 70, 100)},
+             {cut("A", 0, 57, 0), cut("B", 107, 157, 57), cut("C", 27, 70, 107)},
+             {"A of 0 trimmed 0 7 0 (7 0 0)", "B of 1 trimmed -7 7 0 (7 0 0)",
+              "C of 2 trimmed -7 0 0 (0 0 0)"}},
+        Case{"OneNameForAnother",
+             {cut("A", 0, 50, 0, "V", "x")},
+             {cut("A", 0, 50, 0, "V", "y")},
+             {"A of 0 renamed (0 0 0)"}},
+        Case{"NothingToCompareWith", {}, {cut("A", 0, 50, 0)}, {"A new (50 0 0)"}, 50}),
+    RowName());
+
+}  // namespace
+}  // namespace clipvane::test

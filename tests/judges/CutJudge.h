@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace clipvane::test {
+
+/// An event as the judge sees it: ASCII texts, and its four times in frames where they are times.
+struct JudgedEvent {
+    std::string number;
+    std::string name;
+    std::string reel;
+    std::string track;
+    std::array<std::string, 4> texts;  ///< source in, source out, record in, record out
+    std::array<std::optional<std::int64_t>, 4> times;
+};
+
+/// What is to be said of two EDLs, row by row; empty for black.
+struct CutVerdict {
+    std::vector<std::string> newRows;
+    std::vector<std::string> oldRows;
+    std::vector<std::string> black;  ///< "before ROW: FRAMES", track by track
+    std::string sums;
+    /// For each track: the place in OLD's track of each record frame of NEW that plays it.
+    std::map<std::string, std::map<std::int64_t, std::vector<std::int64_t>>> played;
+};
+
+enum class JudgedBy { reel, name, reelAndName };
+
+/// Lays two small lists out frame by frame and goes through the rules of docs/diff.md, one frame at
+/// a time and every chain there is. Knows nothing of the program.
+CutVerdict judgeCuts(const std::vector<JudgedEvent>& oldList,
+                     const std::vector<JudgedEvent>& newList, JudgedBy by = JudgedBy::reel);
+
+}  // namespace clipvane::test
