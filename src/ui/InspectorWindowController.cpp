@@ -81,8 +81,9 @@ PanelView* InspectorWindowController::makeEventPanel() {
 PanelView* InspectorWindowController::makeDetailPanel() {
     QObject::connect(commentsView, &QPlainTextEdit::textChanged, &mainWindow,
                      [this] { textDidChange(); });
-    detailStack->setCommentsBlock(new CommentsBlockView(commentsView));
-    auto* scrollView = new DetailScrollView(detailStack);
+    auto* comments = new CommentsBlockView(commentsView);
+    detailStack->setCommentsBlock(comments);
+    auto* scrollView = new DetailScrollView(detailStack, comments);
     // The scroll bar stands in the panel's margin: the whole content width is the stack's.
     const int bar = scrollView->verticalScrollBar()->sizeHint().width();
     auto* panel = new PanelView("Selected Event");
