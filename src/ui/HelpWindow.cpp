@@ -4,6 +4,7 @@
 #include "ui/HelpWindow.h"
 
 #include <QEvent>
+#include <QKeyEvent>
 #include <QPlainTextEdit>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -74,6 +75,14 @@ void HelpWindow::changeEvent(QEvent* event) {
     // Not every window manager heeds that the window is not to be minimized.
     if (event->type() == QEvent::WindowStateChange && isMinimized()) {
         setWindowState(windowState() & ~Qt::WindowMinimized);
+    }
+}
+
+void HelpWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) {
+        close();
+    } else {
+        QMainWindow::keyPressEvent(event);
     }
 }
 

@@ -7,7 +7,7 @@
 
 namespace clipvane {
 
-/// The window with the instructions. Closing only hides it; shown again it is as it was left.
+/// The window with the instructions. Closing it, also by Esc, only hides it; shown again it is as it was left.
 class HelpWindow : public QMainWindow {
   public:
     HelpWindow();
@@ -17,6 +17,7 @@ class HelpWindow : public QMainWindow {
 
   protected:
     void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 };
 
 }  // namespace clipvane

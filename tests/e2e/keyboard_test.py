@@ -116,7 +116,7 @@ def buttons(desk):
         press("Return")
         desk.await_window("Clipvane Help")
         desk.await_focus("text", "Instructions")
-        press("alt+F4")
+        press("Escape")
         desk.await_window("Clipvane")
 
 

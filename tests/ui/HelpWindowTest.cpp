@@ -61,6 +61,13 @@ TEST_F(HelpWindowTest, Reopened_IsAsItWasLeft) {
     EXPECT_EQ(text.textCursor().selectionEnd(), 30);
 }
 
+TEST_F(HelpWindowTest, EscapeInTheText_ClosesIt) {
+    click("Help");
+    QWidget& window = *helpWindows().front();
+    QTest::keyClick(window.findChild<QPlainTextEdit*>(), Qt::Key_Escape);
+    EXPECT_FALSE(window.isVisible());
+}
+
 TEST_F(HelpWindowTest, Minimized_ComesBackAtOnce) {
     click("Help");
     QWidget& window = *helpWindows().front();
