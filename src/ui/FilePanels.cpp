@@ -8,9 +8,9 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLabel>
 #include <QTreeView>
 #include <array>
-#include <utility>
 
 #include "ui/Text.h"
 
@@ -26,17 +26,31 @@ constexpr const char* timelineFilter =
 constexpr QSize panelSize{860, 520};
 constexpr std::array columnWidths{335, 90, 140, 150};
 
-/// The toolkit's own panel: wide enough for a file's facts, and its pop-ups' lists with names for
-/// assistive technology. A desktop's panel has none of these parts.
+struct PanelPopup {
+    const char* widget;
+    const char* label;  ///< beside it
+    const char* list;   ///< the name of its list
+};
+
+constexpr std::array panelPopups{
+    PanelPopup{"lookInCombo", "lookInLabel", "Folders"},
+    PanelPopup{"fileTypeCombo", "fileTypeLabel", "File types"},
+};
+
+/// The toolkit's own panel: wide enough for a file's facts, and its pop-ups and their lists with
+/// names for assistive technology. A desktop's panel has none of these parts.
 void dress(QFileDialog& panel) {
     panel.resize(panelSize);
     if (auto* files = panel.findChild<QTreeView*>("treeView")) {
         int column = 0;
         for (const int width : columnWidths) files->setColumnWidth(column++, width);
     }
-    for (const auto& [popup, name] :
-         {std::pair{"lookInCombo", "Folders"}, std::pair{"fileTypeCombo", "File types"}}) {
-        if (auto* box = panel.findChild<QComboBox*>(popup)) box->view()->setAccessibleName(name);
+    for (const auto& [popup, beside, name] : panelPopups) {
+        auto* box = panel.findChild<QComboBox*>(popup);
+        auto* label = panel.findChild<QLabel*>(beside);
+        if (box == nullptr || label == nullptr) continue;
+        label->setBuddy(box);
+        box->view()->setAccessibleName(name);
     }
 }
 

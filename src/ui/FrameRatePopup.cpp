@@ -43,13 +43,27 @@ FrameRatePopup::FrameRatePopup(QWidget* parent) : QComboBox(parent) {
     setSizeAdjustPolicy(QComboBox::AdjustToContents);
     setMaxVisibleItems(30);
     view()->setAccessibleName("Frame rates");
-    for (const double fps : standardFPSValues) addItem(title(fps));
+    for (const double fps : standardFPSValues) addItem(title(fps), fps);
+    connect(this, &QComboBox::currentIndexChanged, this, &FrameRatePopup::selectShown);
+    view()->installEventFilter(this);
+}
+
+/// The closed list, which assistive technology reads as well, has the shown entry selected,
+/// whatever was looked at while it was open.
+void FrameRatePopup::selectShown() {
+    view()->selectionModel()->select(model()->index(currentIndex(), modelColumn()),
+                                     QItemSelectionModel::ClearAndSelect);
+}
+
+bool FrameRatePopup::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == view() && event->type() == QEvent::Hide) selectShown();
+    return QComboBox::eventFilter(watched, event);
 }
 
 void FrameRatePopup::showRate(double fps) {
     const QString wanted = title(fps);
     const int known = findText(wanted, Qt::MatchExactly | Qt::MatchCaseSensitive);
-    if (known < 0) addItem(wanted);
+    if (known < 0) addItem(wanted, fps);
     setCurrentIndex(known < 0 ? count() - 1 : known);
 }
 

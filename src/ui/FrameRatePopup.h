@@ -20,6 +20,10 @@ class FrameRatePopup : public QComboBox {
   protected:
     void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void selectShown();
 };
 
 }  // namespace clipvane

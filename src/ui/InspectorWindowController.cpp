@@ -55,8 +55,9 @@ void InspectorWindowController::buildWindow() {
     rootView->status = statusLabel;
     rootView->leftPanel = makeEventPanel();
     rootView->rightPanel = makeDetailPanel();
+    // In this order assistive technology reads them.
     for (QWidget* region :
-         {rootView->toolbar, rootView->status, rootView->leftPanel, rootView->rightPanel}) {
+         {rootView->toolbar, rootView->leftPanel, rootView->rightPanel, rootView->status}) {
         region->setParent(rootView);
     }
     mainWindow.resize(contentSize);

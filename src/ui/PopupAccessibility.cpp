@@ -5,20 +5,29 @@
 
 #include <QAbstractItemView>
 #include <QAccessibleWidget>
-
-#include "ui/FrameRatePopup.h"
+#include <QComboBox>
 
 namespace clipvane {
 namespace {
 
-class AccessiblePopup : public QAccessibleWidget {
+/// The chosen entry, to be read only: choosing has its own way, through the list.
+class AccessiblePopup : public QAccessibleWidget,
+                        public QAccessibleTextInterface,
+                        public QAccessibleValueInterface {
   public:
-    explicit AccessiblePopup(FrameRatePopup* popup)
+    explicit AccessiblePopup(QComboBox* popup)
         : QAccessibleWidget(popup, QAccessible::ComboBox), popup(popup) {}
 
+    void* interface_cast(QAccessible::InterfaceType type) override {
+        if (type == QAccessible::TextInterface) return static_cast<QAccessibleTextInterface*>(this);
+        if (type == QAccessible::ValueInterface && popup->currentData().isValid()) {
+            return static_cast<QAccessibleValueInterface*>(this);
+        }
+        return QAccessibleWidget::interface_cast(type);
+    }
+
     QString text(QAccessible::Text kind) const override {
-        const bool asksForEntry = kind == QAccessible::Value || kind == QAccessible::Description;
-        return asksForEntry ? popup->currentText() : QAccessibleWidget::text(kind);
+        return kind == QAccessible::Value ? popup->currentText() : QAccessibleWidget::text(kind);
     }
     QAccessible::State state() const override {
         QAccessible::State state = QAccessibleWidget::state();
@@ -48,19 +57,46 @@ class AccessiblePopup : public QAccessibleWidget {
         }
     }
 
-  private:
-    FrameRatePopup* popup;
-};
+    // The entry as a text, which screen readers say after the name.
 
-QAccessibleInterface* accessiblePopup(const QString&, QObject* object) {
-    auto* popup = dynamic_cast<FrameRatePopup*>(object);
-    return popup != nullptr ? new AccessiblePopup(popup) : nullptr;
-}
+    QString text(int start, int end) const override {
+        return popup->currentText().mid(start, end - start);
+    }
+    int characterCount() const override { return static_cast<int>(popup->currentText().size()); }
+    QRect characterRect(int) const override { return rect(); }
+    int offsetAtPoint(const QPoint& point) const override {
+        return rect().contains(point) ? 0 : -1;
+    }
+    QString attributes(int, int* start, int* end) const override {
+        *start = 0;
+        *end = characterCount();
+        return {};
+    }
+    void selection(int, int* start, int* end) const override { *start = *end = 0; }
+    int selectionCount() const override { return 0; }
+    void addSelection(int, int) override {}
+    void removeSelection(int) override {}
+    void setSelection(int, int, int) override {}
+    int cursorPosition() const override { return 0; }
+    void setCursorPosition(int) override {}
+    void scrollToSubstring(int, int) override {}
+
+    // The entry as a number.
+
+    QVariant currentValue() const override { return popup->currentData(); }
+    QVariant minimumValue() const override { return popup->itemData(0); }
+    QVariant maximumValue() const override { return popup->itemData(popup->count() - 1); }
+    QVariant minimumStepSize() const override { return {}; }
+    void setCurrentValue(const QVariant&) override {}
+
+  private:
+    QComboBox* popup;
+};
 
 }  // namespace
 
-void installPopupAccessibility() {
-    QAccessible::installFactory(accessiblePopup);
+QAccessibleInterface* accessiblePopup(QComboBox* popup) {
+    return new AccessiblePopup(popup);
 }
 
 }  // namespace clipvane

@@ -3,10 +3,14 @@
 
 #pragma once
 
+class QAccessibleInterface;
+class QComboBox;
+
 namespace clipvane {
 
-/// Lets assistive technology find the frame-rate pop-up under its own name. The toolkit would name
-/// it after the chosen entry. Call once the application object is there.
-void installPopupAccessibility();
+/// A pop-up as assistive technology meets it: under its own name or its label's, where the toolkit
+/// would name it after the chosen entry. That entry is its text; its number, if the entry's data is
+/// one, is its value.
+QAccessibleInterface* accessiblePopup(QComboBox* popup);
 
 }  // namespace clipvane

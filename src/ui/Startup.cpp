@@ -9,11 +9,11 @@
 #include <csignal>
 #include <cstdio>
 
+#include "ui/Accessibility.h"
 #include "ui/ApplicationIcon.h"
 #include "ui/ClipvaneStyle.h"
 #include "ui/Fonts.h"
 #include "ui/Palette.h"
-#include "ui/PopupAccessibility.h"
 
 namespace clipvane {
 namespace {
@@ -51,7 +51,7 @@ void dressApplication(QApplication& application) {
     application.setFont(systemFont(13));
     QToolTip::setFont(systemFont(13));
     QToolTip::setPalette(darkPalette());
-    installPopupAccessibility();
+    installAccessibility();
 }
 
 }  // namespace clipvane

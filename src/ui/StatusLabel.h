@@ -7,7 +7,7 @@
 
 namespace clipvane {
 
-/// The status line. Tells assistive technology what it says.
+/// The status line. A screen reader says each new text.
 class StatusLabel : public TextLabel {
   public:
     explicit StatusLabel(const QString& text, QWidget* parent = nullptr);

@@ -8,10 +8,10 @@ import os
 import time
 from pathlib import Path
 
-from access import rectangle, role_of, walk
+from access import children_of, rectangle, role_of, walk
 from desk import run_test
 from hands import press, put_on_clipboard, type_text, xdotool
-from waiting import PATIENCE, wait_equal
+from waiting import PATIENCE, wait_equal, wait_for
 
 FIXTURES = Path(__file__).resolve().parent.parent / "fixtures"
 
@@ -123,8 +123,9 @@ def not_utf8(desk, folder):
         check_on_screen(desk, message)
         press("Return")
         desk.await_focus("text", "File name:")
-        desk.find("table cell", "link.edl")
-        assert not [n.name for n in walk(desk.app) if n.name.startswith("odd")], "offered"
+        files = desk.find("tree", "Files")
+        wait_for(lambda: "link.edl" in [n.name for n in children_of(files)], "the link's name")
+        assert not [n.name for n in children_of(files) if n.name.startswith("odd")], "offered"
         desk.button("Cancel")
         desk.await_window("Clipvane")
         desk.await_status(status)

@@ -46,7 +46,7 @@ class Desk:
             return
         self.app = access.application(self.process.pid)
         self.known = {}
-        self.status_line = self.find("label", "Open an EDL, XML, FCPXML, or XMEML timeline file.")
+        self.status_line = self.find("notification", "Open an EDL, XML, FCPXML, or XMEML timeline file.")
 
     def is_running(self):
         return self.process.poll() is None
@@ -136,14 +136,14 @@ class Desk:
 
     def rate(self):
         """What the pop-up shows."""
-        return self.find("combo box", "Global FPS").description
+        return access.text_of(self.find("combo box", "Global FPS"))
 
     def comments(self):
         return access.text_of(self.find("text", "Comments"))
 
     def details(self):
         """The title and the eleven rows of the detail panel, as (key, value) pairs."""
-        panel = self.find("filler", "Selected Event")
+        panel = self.find("panel", "Selected Event")
         labels = [n.name for n in access.walk(panel) if access.role_of(n) == "label"]
         return labels[1], dict(zip(labels[2:24:2], labels[3:24:2]))
 

@@ -50,11 +50,11 @@ def start(desk):
         assert desk.rate() == "24 fps", desk.rate()
         assert window_titles() == ["Clipvane"], window_titles()
     with desk.step("the surfaces have their colours"):
-        left, top, width, height = rectangle(desk.find("filler", "Toolbar"))
+        left, top, width, height = rectangle(desk.find("tool bar", "Toolbar"))
         check_pixel(left - 8, top - 8, ROOT, "the root view")
-        left, top, _, _ = rectangle(desk.find("filler", "Event Viewer"))
+        left, top, _, _ = rectangle(desk.find("panel", "Event Viewer"))
         check_pixel(left + 20, top + 5, PANEL, "the left panel")
-        left, top, width, height = rectangle(desk.find("filler", "Selected Event"))
+        left, top, width, height = rectangle(desk.find("panel", "Selected Event"))
         check_pixel(left + 20, top + height - 5, PANEL, "the right panel")
         desk.picture("started")
 
@@ -175,7 +175,8 @@ def copy_info(desk):
 def export(desk, button, default_name, folder, path, content):
     desk.button(button)
     desk.await_window("Export")
-    desk.find("combo box", str(folder))
+    look_in = desk.find("combo box", "Look in:")
+    wait_equal(lambda: text_of(look_in), str(folder), "the folder of the panel")
     wait_equal(lambda: text_of(desk.find("text", "File name:")), default_name, "the preset name")
     desk.choose_file("Export", path)
     desk.await_window("Clipvane")

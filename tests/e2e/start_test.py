@@ -26,7 +26,7 @@ def ignores_options(desk):
     with desk.step("arguments and toolkit options are ignored"):
         desk.start(arguments=OPTIONS, environment=ENVIRONMENT)
         assert rectangle(desk.app.getChildAtIndex(0))[2:] == (1440, 860), "not the usual size"
-        left, top, width, _ = rectangle(desk.find("filler", "Toolbar"))
+        left, top, width, _ = rectangle(desk.find("tool bar", "Toolbar"))
         assert rectangle(desk.find("label", "Clipvane"))[0] == left, "the name is not on the left"
         wait_for(lambda: Screenshot().pixel(left - 8, top - 8) == (18, 20, 23), "the usual colours")
         assert desk.rows() == [], "a file was opened"

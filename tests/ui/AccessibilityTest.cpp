@@ -3,6 +3,7 @@
 
 #include <gmock/gmock.h>
 
+#include <QAbstractItemView>
 #include <QAccessible>
 #include <set>
 
@@ -56,6 +57,87 @@ TEST_F(AccessibilityTest, Controls_HaveTheirRolesAndNames) {
     EXPECT_EQ(popup->text(QAccessible::Value), "24 fps");
     EXPECT_NE(named("Comments", QAccessible::EditableText), nullptr);
     EXPECT_NE(named("Clipvane", QAccessible::Window), nullptr);
+}
+
+TEST_F(AccessibilityTest, Regions_HaveRolesThatAreAnnounced_InReadingOrder) {
+    QStringList regions;
+    for (auto* item : everything()) {
+        const QString name = item->text(QAccessible::Name);
+        if (item->role() == QAccessible::ToolBar) regions << "tool bar " + name;
+        if (item->role() == QAccessible::Grouping) regions << "group " + name;
+        if (item->role() == QAccessible::Notification) regions << "notification " + name;
+    }
+    EXPECT_EQ(regions, (QStringList{"tool bar Toolbar", "group Event Viewer",
+                                    "group Selected Event", "notification " + status()}));
+}
+
+TEST_F(AccessibilityTest, Popup_TellsItsEntryAsTextAndValueAndSelection) {
+    auto* popup = named("Global FPS", QAccessible::ComboBox);
+    ASSERT_NE(popup, nullptr);
+    const auto selected = [popup] {
+        QStringList names;
+        auto* list = popup->child(0);
+        for (int i = 0; i < list->childCount(); ++i) {
+            if (list->child(i)->state().selected) names << list->child(i)->text(QAccessible::Name);
+        }
+        return names.join(' ');
+    };
+    ASSERT_NE(popup->textInterface(), nullptr);
+    EXPECT_EQ(popup->textInterface()->text(0, popup->textInterface()->characterCount()), "24 fps");
+    ASSERT_NE(popup->valueInterface(), nullptr);
+    EXPECT_EQ(popup->valueInterface()->currentValue(), 24.0);
+    EXPECT_EQ(popup->text(QAccessible::Description), "");
+    EXPECT_EQ(selected(), "24 fps");
+    auto* box = find<FrameRatePopup>();
+    box->showPopup();
+    QTest::keyClick(box->view(), Qt::Key_Down);
+    EXPECT_EQ(selected(), "25 fps");
+    box->hidePopup();
+    EXPECT_EQ(selected(), "24 fps");
+    box->showRate(12.5);
+    EXPECT_EQ(selected(), "12.5 fps");
+    EXPECT_EQ(popup->valueInterface()->currentValue(), 12.5);
+}
+
+TEST_F(AccessibilityTest, Comments_EachCharacterHasItsPlaceOnTheScreen) {
+    open(writeEDL("cut.edl", 1));
+    auto* editor = find<CommentsView>();
+    QTest::keyClicks(editor, "ab");
+    QTest::keyClick(editor, Qt::Key_Return);
+    QTest::keyClicks(editor, "c " + QString("word ").repeated(20));
+    auto* text = named("Comments", QAccessible::EditableText)->textInterface();
+    ASSERT_NE(text, nullptr);
+    const QRect a = text->characterRect(0);
+    const QRect b = text->characterRect(1);
+    const QRect c = text->characterRect(3);
+    const QPoint corner = editor->viewport()->mapToGlobal(QPoint());
+    EXPECT_TRUE(QRect(corner, editor->viewport()->size()).contains(a));
+    EXPECT_GT(a.width(), 2);
+    EXPECT_EQ(b.topLeft(), QPoint(a.left() + a.width(), a.top()));
+    EXPECT_EQ(c.topLeft(), QPoint(a.left(), a.top() + a.height()));
+    EXPECT_EQ(text->offsetAtPoint(c.center() - QPoint(1, 0)), 3);
+    // A long line wraps; a screen reader is given what stands in one row.
+    int start = 0;
+    int end = 0;
+    const QString row = text->textAtOffset(3, QAccessible::LineBoundary, &start, &end);
+    EXPECT_EQ(start, 3);
+    EXPECT_TRUE(row.startsWith("c word word")) << row.toStdString();
+    EXPECT_LT(row.size(), 80);
+    EXPECT_GT(text->characterRect(end + 2).top(), c.top());
+    EXPECT_EQ(text->textBeforeOffset(end + 2, QAccessible::LineBoundary, &start, &end), row);
+    EXPECT_EQ(text->textAfterOffset(0, QAccessible::LineBoundary, &start, &end), row);
+}
+
+TEST_F(AccessibilityTest, Comments_ChangedByAssistiveTechnology_CountAsTyped) {
+    open(writeEDL("cut.edl", 1));
+    auto* comments = named("Comments", QAccessible::EditableText);
+    comments->editableTextInterface()->insertText(0, "by voice");
+    comments->editableTextInterface()->replaceText(3, 8, "hand");
+    EXPECT_EQ(controller.document().events[0].comments, "by hand");
+    EXPECT_EQ(comments->text(QAccessible::Value), "by hand");
+    click("Remove Event");
+    comments->editableTextInterface()->insertText(0, "nowhere");
+    EXPECT_EQ(find<CommentsView>()->comments(), "");
 }
 
 TEST_F(AccessibilityTest, Table_TellsItsHeadersAndCells) {

@@ -1,0 +1,12 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+namespace clipvane {
+
+/// Tells assistive technology what the toolkit would tell wrongly or not at all. Call once the
+/// application object is there.
+void installAccessibility();
+
+}  // namespace clipvane
