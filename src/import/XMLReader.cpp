@@ -52,8 +52,8 @@ constexpr std::size_t effortPerDefaultAttribute = 16;
 /// One run of the parser over a document, calling back the delegate.
 class ParserRun {
   public:
-    ParserRun(CommonTimelineXMLDelegate& delegate, const char* encoding)
-        : delegate(delegate), parser(XML_ParserCreate(encoding), XML_ParserFree) {
+    ParserRun(CommonTimelineXMLDelegate& delegate, const char* encoding, XMLWatcher* watcher)
+        : delegate(delegate), watcher(watcher), parser(XML_ParserCreate(encoding), XML_ParserFree) {
         if (!parser) throw std::bad_alloc();
         XML_SetUserData(parser.get(), this);
         XML_SetElementHandler(parser.get(), startElement, endElement);
@@ -83,6 +83,7 @@ class ParserRun {
         }
         if (failure) std::rethrow_exception(failure);
         if (XML_GetErrorCode(parser.get()) == XML_ERROR_NO_MEMORY) throw std::bad_alloc();
+        if (status != XML_STATUS_OK && watcher != nullptr) tellTheEnd();
     }
 
   private:
@@ -107,6 +108,14 @@ class ParserRun {
         hasStopped = true;
     }
 
+    std::size_t line() const { return XML_GetCurrentLineNumber(parser.get()); }
+
+    void tellTheEnd() {
+        const auto* const reason = hasStopped ? "it asks for more than any timeline needs"
+                                              : XML_ErrorString(XML_GetErrorCode(parser.get()));
+        watcher->brokeOff(line(), XML_GetCurrentColumnNumber(parser.get()) + 1, reason);
+    }
+
     static void startElement(void* userData, const XML_Char* name, const XML_Char** attributes) {
         auto& run = *static_cast<ParserRun*>(userData);
         if (++run.level > mostLevels) run.stop();
@@ -117,6 +126,8 @@ class ParserRun {
         }
         guarded(userData, [&](CommonTimelineXMLDelegate& reader) {
             reader.didStartElement(name, XMLAttributes(attributes));
+            if (run.watcher != nullptr)
+                run.watcher->element(name, *attributes != nullptr, run.line());
         });
     }
 
@@ -150,6 +161,7 @@ class ParserRun {
     }
 
     CommonTimelineXMLDelegate& delegate;
+    XMLWatcher* watcher;
     std::unique_ptr<XML_ParserStruct, decltype(&XML_ParserFree)> parser;
     std::exception_ptr failure;
     bool hasStopped = false;
@@ -162,10 +174,10 @@ class ParserRun {
 
 }  // namespace
 
-std::vector<TimelineEvent> readXML(std::string_view data, double fps) {
+std::vector<TimelineEvent> readXML(std::string_view data, double fps, XMLWatcher* watcher) {
     CommonTimelineXMLDelegate delegate(fps);
     const XMLBytes bytes = readableXML(data);
-    ParserRun(delegate, bytes.encoding).parse(bytes.of(data));
+    ParserRun(delegate, bytes.encoding, watcher).parse(bytes.of(data));
     return std::move(delegate.events);
 }
 
