@@ -15,6 +15,7 @@ std::vector<std::unique_ptr<Command>> allCommands();
 
 std::unique_ptr<Command> makeListCommand();
 std::unique_ptr<Command> makeConvertCommand();
+std::unique_ptr<Command> makeCheckCommand();
 std::unique_ptr<Command> makeStampCommand();
 
 }  // namespace clipvane::cli

@@ -36,10 +36,10 @@ ReadTimeline edlTimeline(std::string_view text, std::optional<double> fps) {
     return timeline;
 }
 
-ReadTimeline xmlTimeline(std::string_view data, std::optional<double> fps) {
+ReadTimeline xmlTimeline(std::string_view data, std::optional<double> fps, XMLWatcher* watcher) {
     ReadTimeline timeline{std::make_unique<TimelineDocument>(), detectFPS(data)};
     setRate(*timeline.document, fps, timeline.namedRate);
-    timeline.document->events = readXML(data, timeline.document->fps);
+    timeline.document->events = readXML(data, timeline.document->fps, watcher);
     return timeline;
 }
 
@@ -53,14 +53,14 @@ Result<ReadTimeline> readJSONLines(std::string_view text, std::optional<double> 
     return timeline;
 }
 
-Result<ReadTimeline> read(std::string_view bytes, TimelineFormat format,
-                          std::optional<double> fps) {
+Result<ReadTimeline> read(std::string_view bytes, TimelineFormat format, std::optional<double> fps,
+                          XMLWatcher* watcher) {
     switch (format) {
         case TimelineFormat::edl:
             if (validUTF8Prefix(bytes) == bytes.size()) return edlTimeline(bytes, fps);
             return edlTimeline(replaceInvalidUTF8(bytes), fps);
         case TimelineFormat::xml:
-            return xmlTimeline(bytes, fps);
+            return xmlTimeline(bytes, fps, watcher);
         case TimelineFormat::jsonLines:
             break;
     }
@@ -76,9 +76,9 @@ bool isGuess(const TimelineDocument& document, TimelineFormat format) {
 }  // namespace
 
 Result<ReadTimeline> readTimeline(const FileBytes& bytes, TimelineFormat format,
-                                  std::optional<double> fps) {
+                                  std::optional<double> fps, XMLWatcher* watcher) {
     return possibly([&]() -> Result<ReadTimeline> {
-        auto timeline = read(bytes.view(), format, fps);
+        auto timeline = read(bytes.view(), format, fps, watcher);
         // Whatever is done with the timeline needs a base to count on.
         if (timeline) static_cast<void>(frameBase(timeline->document->fps));
         return timeline;

@@ -12,6 +12,7 @@
 #include "cli/ReadingOptions.h"
 #include "cli/Session.h"
 #include "cli/TimelineFormat.h"
+#include "import/XMLReader.h"
 #include "model/TimelineDocument.h"
 
 namespace clipvane::cli {
@@ -24,9 +25,9 @@ struct ReadTimeline {
 
 /// Reads the timeline in `bytes`, at `fps` frames a second if that is given, otherwise at the rate
 /// that it names, or 24. Fails with a reason to follow the name: lines that are no events of JSON,
-/// numbers that are impossible, no memory.
+/// numbers that are impossible, no memory. A watcher is told what an XML document holds besides.
 Result<ReadTimeline> readTimeline(const FileBytes& bytes, TimelineFormat format,
-                                  std::optional<double> fps);
+                                  std::optional<double> fps, XMLWatcher* watcher = nullptr);
 
 /// The bytes of `input`, whose format must be told. Fails as `Input::read` does.
 struct InputBytes {

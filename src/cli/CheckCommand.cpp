@@ -1,0 +1,136 @@
+// SPDX-FileCopyrightText: 2026 The Clipvane developers
+// SPDX-License-Identifier: MIT
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <string>
+
+#include "base/Characters.h"
+#include "cli/Check.h"
+#include "cli/CheckFormat.h"
+#include "cli/Commands.h"
+#include "cli/Output.h"
+#include "cli/ReadingOptions.h"
+#include "cli/TimelineReading.h"
+#include "cli/TimelineWalk.h"
+
+namespace clipvane::cli {
+namespace {
+
+bool isSuspicious(const Finding& finding) {
+    return finding.weight == Finding::Weight::suspicious;
+}
+
+/// Whether a file that was found in a folder may well be no timeline at all.
+bool mayBeAnything(const WalkedTimeline& walked) {
+    std::string extension = walked.input.fileName().extension();
+    std::ranges::transform(extension, extension.begin(), asciiLower);
+    return !walked.isNamed && (extension == ".txt" || extension == ".xml");
+}
+
+/// Says what is read, what is not, and what looks wrong.
+class CheckCommand : public Command {
+  public:
+    std::string name() const override { return "check"; }
+    std::string summary() const override {
+        return "tell what is read of timelines, and what looks wrong";
+    }
+    std::string examples() const override {
+        return "  clipvane-cli check --fps 25 cut.edl\n"
+               "  clipvane-cli check --strict archive && echo nothing suspicious\n"
+               "  clipvane-cli check -f jsonl archive | jq 'select(.weight == \"suspicious\")'\n";
+    }
+
+    void addOptions(CLI::App& app) override {
+        addFPSOption(app, reading);
+        addFromOption(app, reading, "edl|xml|jsonl");
+        app.add_option("-f,--format", format, "text (default) or jsonl")
+            ->type_name("FORMAT")
+            ->check(CLI::IsMember({"text", "jsonl"}));
+        app.add_flag("--strict", strict, "end with status 3 when anything is suspicious");
+        addNames(app, reading, "TIMELINE|FOLDER");
+    }
+
+    Status run(Session& session) override {
+        const auto inputs = inputsNamed(reading.names);
+        if (const auto misuse = misuseOf(inputs, reading)) return session.wrongUse(*misuse);
+        auto output = Output::open("-", AtomicFile::Existing::keep);
+        const auto written = checkAll(walkTimelines(inputs, session), *output, session);
+        if (!written) session.fail(output->name(), written.error());
+        return session.statusOr(strict && totals.suspicious > 0 ? Status::suspicious : Status::ok);
+    }
+
+  private:
+    struct Totals {
+        std::size_t timelines = 0;
+        std::size_t events = 0;
+        std::size_t suspicious = 0;
+        std::size_t notes = 0;
+    };
+
+    /// Fails where the output does.
+    Result<void> checkAll(const std::vector<WalkedTimeline>& timelines, Output& output,
+                          Session& session) {
+        for (std::size_t i = 0; i < timelines.size(); ++i) {
+            const Input& input = timelines[i].input;
+            session.messages.progress(i, timelines.size(), input.name());
+            const auto checked = checkOne(timelines[i], session);
+            if (!checked) {
+                session.fail(input.title(), checked.error());
+                continue;
+            }
+            session.messages.clearProgress();
+            const auto& write = format == "jsonl" ? findingLines : findingsText;
+            const TimelineDocument& document = *checked->timeline.document;
+            const auto text = write(input.name(), document, checked->findings);
+            if (auto written = output.write(text); !written) return written;
+            count(*checked);
+        }
+        session.messages.clearProgress();
+        if (format != "jsonl" && totals.timelines > 1) {
+            if (auto written = output.write(sum()); !written) return written;
+        }
+        return output.finish();
+    }
+
+    Result<CheckedTimeline> checkOne(const WalkedTimeline& walked, Session& session) const {
+        const auto content = readBytes(walked.input, reading);
+        if (!content) return tl::unexpected(content.error());
+        auto checked = check(*content, reading.fps);
+        if (!checked) return checked;
+        if (reading.fps) noteRate(checked->timeline, walked.input.title(), reading, session);
+        if (checked->timeline.document->events.empty() && mayBeAnything(walked)) {
+            checked->findings = {{"no-events", Finding::Weight::note, std::nullopt, std::nullopt,
+                                  "it holds no events"}};
+        }
+        return checked;
+    }
+
+    void count(const CheckedTimeline& checked) {
+        ++totals.timelines;
+        totals.events += checked.timeline.document->events.size();
+        const auto suspicious =
+            static_cast<std::size_t>(std::ranges::count_if(checked.findings, isSuspicious));
+        totals.suspicious += suspicious;
+        totals.notes += checked.findings.size() - suspicious;
+    }
+
+    std::string sum() const {
+        return std::to_string(totals.timelines) + " timelines, " + std::to_string(totals.events) +
+               " events, " + std::to_string(totals.suspicious) + " suspicious, " +
+               std::to_string(totals.notes) + " notes\n";
+    }
+
+    ReadingOptions reading;
+    std::string format = "text";
+    bool strict = false;
+    Totals totals;
+};
+
+}  // namespace
+
+std::unique_ptr<Command> makeCheckCommand() {
+    return std::make_unique<CheckCommand>();
+}
+
+}  // namespace clipvane::cli
