@@ -16,6 +16,7 @@
 #include <string>
 
 #include "base/SystemCalls.h"
+#include "support/LongTest.h"
 #include "support/TemporaryFolder.h"
 #include "support/WithoutPrivileges.h"
 
@@ -214,6 +215,7 @@ std::size_t availableMemory() {
 }
 
 TEST(ReadFile, FileLargerThanTheKernelReadsInOneCall_IsReadWhole) {
+    CLIPVANE_LONG_TEST();
     constexpr std::size_t size = std::size_t{1} << 31;
     if (availableMemory() < 2 * size) GTEST_SKIP() << "needs 4 GB of free memory";
     const TemporaryFolder folder;

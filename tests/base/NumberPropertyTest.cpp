@@ -13,6 +13,7 @@
 #include <string>
 
 #include "base/Number.h"
+#include "support/LongTest.h"
 
 namespace clipvane::test {
 namespace {
@@ -135,6 +136,7 @@ bool same(std::optional<double> a, std::optional<double> b) {
 }
 
 TEST(ParseNumber, GeneratedLiterals_AreReadAsTheCLibraryReadsThem) {
+    CLIPVANE_LONG_TEST();
     Literals literals;
     int differences = 0;
     int read = 0;

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "support/AppendUTF8.h"
+#include "support/LongTest.h"
 #include "support/RowName.h"
 
 namespace clipvane::test {
@@ -123,6 +124,7 @@ class Garbage {
 };
 
 TEST(ReplaceInvalidUTF8, GeneratedGarbage_IsReplacedAsICUDoes) {
+    CLIPVANE_LONG_TEST();
     Garbage garbage;
     for (int i = 0; i < 200'000; ++i) {
         const std::string bytes = garbage.draw();
@@ -134,6 +136,7 @@ TEST(ReplaceInvalidUTF8, GeneratedGarbage_IsReplacedAsICUDoes) {
 }
 
 TEST(LastCodePoint, GeneratedGarbage_IsReadBackwardsAsForwards) {
+    CLIPVANE_LONG_TEST();
     Garbage garbage;
     for (int i = 0; i < 200'000; ++i) {
         const std::string bytes = garbage.draw();

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "base/UUID.h"
+#include "support/LongTest.h"
 
 #include <gtest/gtest.h>
 
@@ -55,6 +56,7 @@ TEST(UUID, OneWrongCharacterAnywhere_IsNotRead) {
 }
 
 TEST(UUIDGenerator, DrawsAreRandomIdentifiersOfVersionFour) {
+    CLIPVANE_LONG_TEST();
     UUIDGenerator generator;
     std::set<std::string> drawn;
     for (int i = 0; i < 100'000; ++i) {

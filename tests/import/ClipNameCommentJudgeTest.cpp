@@ -7,6 +7,7 @@
 #include "import/ClipNameCommentGenerator.h"
 #include "judges/EDLJudge.h"
 #include "support/AppendUTF8.h"
+#include "support/LongTest.h"
 #include "support/Scale.h"
 
 namespace clipvane::test {
@@ -23,6 +24,7 @@ std::string keywordWith(std::string_view insertion, std::size_t position, std::s
 }
 
 TEST(ClipNameCommentJudge, EveryCodePointForEveryLetterAndAroundIt_IsFoundAsInUpperCase) {
+    CLIPVANE_LONG_TEST();
     const auto judged = [](const std::string& line) {
         return clipNameComment(line) == judgedClipName(utf16(line));
     };
@@ -40,6 +42,7 @@ TEST(ClipNameCommentJudge, EveryCodePointForEveryLetterAndAroundIt_IsFoundAsInUp
 }
 
 TEST(ClipNameCommentJudge, GeneratedLines_GiveTheNameFoundInUpperCase) {
+    CLIPVANE_LONG_TEST();
     const std::size_t count = generatedCases(400'000);
     Random random;
     std::size_t names = 0;

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "import/TimelineParser.h"
+#include "support/LongTest.h"
 
 namespace clipvane::test {
 namespace {
@@ -53,6 +54,7 @@ TEST(CostlyXML, DeepDocument_IsRead) {
 }
 
 TEST(CostlyXML, EndlesslyDeepDocument_EndsWithTheMillionthLevel) {
+    CLIPVANE_LONG_TEST();
     const std::string inner = repeated("<b>", 999'998) + "<clip/>" + repeated("</b>", 999'998);
     EXPECT_EQ(eventCount("<a>" + inner + "<clip/></a>"), 2U);
     EXPECT_EQ(eventCount("<a><clip/><b><b>" + inner + "</b></b><clip/></a>"), 1U);
@@ -66,17 +68,20 @@ std::string withDefaults(int count, std::size_t elements) {
 }
 
 TEST(CostlyXML, DefaultAttributesForManyElements_AreMalformed) {
+    CLIPVANE_LONG_TEST();
     EXPECT_EQ(eventCount(withDefaults(10'000, 10)), 2U);
     EXPECT_EQ(eventCount(withDefaults(10'000, 100'000)), 1U);
 }
 
 TEST(CostlyXML, DefaultAttributesWithoutEnd_AreMalformed) {
+    CLIPVANE_LONG_TEST();
     EXPECT_EQ(eventCount(withDefaults(10'001, 1)), 0U);
     EXPECT_EQ(eventCount(withDefaults(400'000, 1)), 0U);
 }
 
 /// A megabyte that each of a hundred thousand end tags asks for.
 TEST(CostlyXML, TextThatManyElementsEndWith_IsMalformed) {
+    CLIPVANE_LONG_TEST();
     for (const std::string_view name : {"name", "comment", "in", "reel"}) {
         const auto ended = [&](std::size_t times) {
             const std::string open = "<" + std::string(name) + ">";
@@ -91,6 +96,7 @@ TEST(CostlyXML, TextThatManyElementsEndWith_IsMalformed) {
 
 /// A megabyte for each of a hundred thousand events.
 TEST(CostlyXML, AssetsNameWithoutEndForEveryClip_IsMalformed) {
+    CLIPVANE_LONG_TEST();
     const std::string asset = "<a><asset id='r' name='" + std::string(1'000'000, 'n') + "'/>";
     EXPECT_EQ(eventCount(asset + repeated("<clip ref='r'/>", 10) + "</a>"), 10U);
     const auto events =

@@ -10,6 +10,7 @@
 #include "import/Summary.h"
 #include "import/TimelineParser.h"
 #include "judges/EDLJudge.h"
+#include "support/LongTest.h"
 #include "support/Scale.h"
 
 namespace clipvane::test {
@@ -70,6 +71,7 @@ std::vector<std::string> summaries(const std::vector<TimelineEvent>& events) {
 }
 
 TEST(EDLReaderJudge, GeneratedTexts_GiveTheEventsOfThePattern) {
+    CLIPVANE_LONG_TEST();
     const std::size_t count = generatedCases(60'000);
     Random random;
     EDLJudge judge;

@@ -9,6 +9,7 @@
 #include "import/EventLineGenerator.h"
 #include "judges/EDLJudge.h"
 #include "support/AppendUTF8.h"
+#include "support/LongTest.h"
 #include "support/Scale.h"
 
 namespace clipvane::test {
@@ -40,6 +41,7 @@ testing::AssertionResult agree(Pattern& pattern, const std::string& line, std::s
 }
 
 TEST(EventLineJudge, GeneratedLines_MatchAsThePatternDoes) {
+    CLIPVANE_LONG_TEST();
     const std::size_t count = generatedCases(1'200'000);
     Random random;
     Pattern pattern(eventPattern);
@@ -54,6 +56,7 @@ TEST(EventLineJudge, GeneratedLines_MatchAsThePatternDoes) {
 
 /// Every code point once as a digit, as a blank, as a colon and as a part of a column.
 TEST(EventLineJudge, EveryCodePointAtEveryKindOfPlace_MatchesAsThePatternDoes) {
+    CLIPVANE_LONG_TEST();
     Pattern pattern(eventPattern);
     std::size_t matches = 0;
     const std::string tail = "00:00:00:01 00:00:00:02 00:00:00:03";

@@ -7,12 +7,14 @@
 #include "import/TimelineParser.h"
 #include "judges/FrameRateJudge.h"
 #include "support/AppendUTF8.h"
+#include "support/LongTest.h"
 #include "support/Scale.h"
 
 namespace clipvane::test {
 namespace {
 
 TEST(FrameRateDetectionJudge, GeneratedTexts_GiveThePatternsRate) {
+    CLIPVANE_LONG_TEST();
     const std::size_t count = generatedCases(400'000);
     Random random;
     FrameRateJudge judge;
@@ -32,6 +34,7 @@ TEST(FrameRateDetectionJudge, GeneratedTexts_GiveThePatternsRate) {
 
 /// Every code point once as each letter of the names, as a blank, as a digit and as a quote.
 TEST(FrameRateDetectionJudge, EveryCodePointAtEveryKindOfPlace_GivesThePatternsRate) {
+    CLIPVANE_LONG_TEST();
     FrameRateJudge judge;
     for (char32_t c = 0; c <= 0x10FFFF; ++c) {
         if (c >= 0xD800 && c <= 0xDFFF) continue;

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "judges/Pattern.h"
+#include "support/LongTest.h"
 #include "support/Random.h"
 #include "support/RowName.h"
 #include "support/Scale.h"
@@ -101,6 +102,7 @@ std::vector<std::string> linesByProperty(const icu::UnicodeString& text) {
 }
 
 TEST(LinesJudge, GeneratedTexts_AreSplitAtMandatoryBreaks) {
+    CLIPVANE_LONG_TEST();
     constexpr std::array pieces{"a"sv,      "\n"sv,     "\r"sv,     "\r\n"sv,   "\v"sv,
                                 "\f"sv,     "\u0085"sv, "\u2028"sv, "\u2029"sv, "\u0084"sv,
                                 "\u2027"sv, "\u202A"sv, "\u00E2"sv, "\u00C2"sv, "\U0001F3AC"sv,
@@ -116,6 +118,7 @@ TEST(LinesJudge, GeneratedTexts_AreSplitAtMandatoryBreaks) {
 }
 
 TEST(LinesJudge, EveryCodePoint_SplitsAsItsPropertySays) {
+    CLIPVANE_LONG_TEST();
     for (UChar32 c = 0; c <= 0x10FFFF; ++c) {
         if (c >= 0xD800 && c <= 0xDFFF) continue;
         const std::string text = "1234" + utf8(icu::UnicodeString(c)) + "5678";

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "import/TimelineParser.h"
+#include "support/LongTest.h"
 #include "support/Scale.h"
 
 namespace clipvane::test {
@@ -44,6 +45,7 @@ std::string eventLine(const std::string& number, const std::string& reel,
 }
 
 TEST_F(LongText, ColumnsAndBlanksOfAnEvent_AreRead) {
+    CLIPVANE_LONG_TEST();
     const std::string accents = repeated("\u00E9");
     for (const auto& [number, reel, blank] :
          {std::tuple{std::string("1"), run('R'), std::string(" ")},
@@ -58,6 +60,7 @@ TEST_F(LongText, ColumnsAndBlanksOfAnEvent_AreRead) {
 }
 
 TEST_F(LongText, LinesThatNearlyAreEvents_AreSkipped) {
+    CLIPVANE_LONG_TEST();
     for (const auto& line :
          {run(' '), run('1'), repeated("1 "), repeated("00:00:00:00 "), "1 a b c " + run('0'),
           "1 a b c 00:00:00:00" + run(' '), repeated("\u3000"), repeated("\n"), repeated("\r\n"),
@@ -67,6 +70,7 @@ TEST_F(LongText, LinesThatNearlyAreEvents_AreSkipped) {
 }
 
 TEST_F(LongText, Comments_AreJoined) {
+    CLIPVANE_LONG_TEST();
     const std::string event = eventLine("1", "R", " ");
     for (const auto& comment : {"* " + run('x'), run(' ') + '*', repeated("from clip nam") + "e",
                                 repeated("F") + "ROM CLIP NAME"}) {
@@ -80,6 +84,7 @@ TEST_F(LongText, Comments_AreJoined) {
 }
 
 TEST_F(LongText, NearMissesOfFrameRates_GiveNone) {
+    CLIPVANE_LONG_TEST();
     for (const auto& text :
          {repeated("fps"), repeated("fps "), "fps" + run(' '), "fps:" + run(' '), repeated("fps:"),
           repeated("frame rate"), repeated("<timebase>"), "<timebase>" + run(' '),
@@ -92,12 +97,14 @@ TEST_F(LongText, NearMissesOfFrameRates_GiveNone) {
 }
 
 TEST_F(LongText, ARateAfterMuchElse_IsFound) {
+    CLIPVANE_LONG_TEST();
     EXPECT_EQ(TimelineParser::detectFPS(run('.') + "fps" + run(' ') + ":" + run('\n') + "25"),
               25.0);
     EXPECT_EQ(TimelineParser::detectFPS("fps:25." + run('0')), 25.0);
 }
 
 TEST_F(LongText, XMLTokens_AreRead) {
+    CLIPVANE_LONG_TEST();
     const std::string before = "<a><clip/>";
     const std::string after = "<clip/></a>";
     for (const auto& token :
@@ -112,11 +119,13 @@ TEST_F(LongText, XMLTokens_AreRead) {
 
 /// Begun anew with every piece that is read of it, such a comment would take minutes.
 TEST_F(LongText, AnXMLCommentOfManyPieces_IsReadInLinearTime) {
+    CLIPVANE_LONG_TEST();
     const std::string comment = "<!--" + std::string(scaled(160'000'000), 'x') + "-->";
     EXPECT_EQ(TimelineParser::parseXML("<a><clip/>" + comment + "<clip/></a>", 25).size(), 2U);
 }
 
 TEST_F(LongText, XMLTextAndName_AreKept) {
+    CLIPVANE_LONG_TEST();
     const auto events = TimelineParser::parseXML(
         "<clip id='" + run('i') + "'><name>" + run('n') + "</name></clip>", 25);
     ASSERT_EQ(events.size(), 1U);

@@ -5,6 +5,7 @@
 
 #include "import/Summary.h"
 #include "import/TimelineParser.h"
+#include "support/LongTest.h"
 
 namespace clipvane::test {
 namespace {
@@ -36,6 +37,7 @@ std::string documentWith(std::size_t length) {
 constexpr std::size_t pieceSize = std::size_t{1} << 18;
 
 TEST(XMLPieces, WhereverThePieceEnds_TheEventsAreTheSame) {
+    CLIPVANE_LONG_TEST();
     const std::string expected = summaries(documentWith(10));
     EXPECT_EQ(expected,
               "1|Pi\u00EBr|r1|||01:00:00:00|01:00:00:01|XML|asset-clip||asset-clip|no\n"

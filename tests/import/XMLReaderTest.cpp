@@ -6,6 +6,7 @@
 #include <string>
 
 #include "import/TimelineParser.h"
+#include "support/LongTest.h"
 #include "support/RowName.h"
 #include "support/TemporaryFolder.h"
 
@@ -170,6 +171,7 @@ TEST(XMLReader, AnEntityInANameOfLength_ExpandsWithinTheGuard) {
 
 /// The file is handed over in pieces; a text, a tag and a character may lie across their ends.
 TEST(XMLReader, ALongDocument_IsReadAcrossPieces) {
+    CLIPVANE_LONG_TEST();
     constexpr std::size_t count = 60'000;
     std::string xml = "<a>";
     for (std::size_t i = 0; i < count; ++i) {

@@ -13,6 +13,7 @@
 #include "base/UTF8.h"
 #include "model/SampleEvent.h"
 #include "support/AppendUTF8.h"
+#include "support/LongTest.h"
 
 namespace clipvane::test {
 namespace {
@@ -183,6 +184,7 @@ TEST(DecodeJSON, EveryTruncation_Fails) {
 }
 
 TEST(JSON, RandomEvents_SurviveTheRoundTripByteForByte) {
+    CLIPVANE_LONG_TEST();
     std::mt19937_64 engine(3);
     const auto drawText = [&] {
         static constexpr char32_t favourites[]{0,      '\n',   '\r',   '"',     '\\',

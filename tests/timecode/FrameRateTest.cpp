@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "support/LongTest.h"
 #include "support/RowName.h"
 
 namespace clipvane::test {
@@ -107,6 +108,7 @@ std::string labelOfMillionths(std::int64_t millionths) {
 }
 
 TEST(FormatFPS, ManyRates_AreLabelledAsIntegerArithmeticSays) {
+    CLIPVANE_LONG_TEST();
     std::mt19937_64 engine(5);
     for (int i = 0; i < 500'000; ++i) {
         const auto most = std::int64_t{1} << (10 + engine() % 30);

@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "judges/TimecodeJudge.h"
+#include "support/LongTest.h"
 #include "support/ThrowingFatal.h"
 #include "timecode/FrameRate.h"
 #include "timecode/Timecode.h"
@@ -48,6 +49,7 @@ class Counts {
 };
 
 TEST(Timecode, EveryCountAtEveryStandardRate_IsReadBack) {
+    CLIPVANE_LONG_TEST();
     Counts counts;
     for (const double fps : standardFPSValues) {
         for (int i = 0; i < 50'000; ++i) {
@@ -62,6 +64,7 @@ TEST(Timecode, EveryCountAtEveryStandardRate_IsReadBack) {
 }
 
 TEST(Timecode, EveryCountOfADay_IsReadBackAndGrowsFieldByField) {
+    CLIPVANE_LONG_TEST();
     std::string earlier;
     for (std::int64_t count = 0; count < 24 * 3600 * 25; ++count) {
         const std::string text = timecode(count, 25, false);
@@ -73,6 +76,7 @@ TEST(Timecode, EveryCountOfADay_IsReadBackAndGrowsFieldByField) {
 }
 
 TEST(Timecode, ManyCountsAtManyRates_AreWrittenAsTheCLibraryWritesThem) {
+    CLIPVANE_LONG_TEST();
     Counts counts;
     for (const std::int64_t base : {1, 2, 24, 25, 30, 60, 99, 100, 101, 120, 1000}) {
         const std::int64_t hundredHours = 100 * 3600 * base;
@@ -97,6 +101,7 @@ std::int64_t exactlyConverted(std::int64_t count, std::int64_t from, std::int64_
 }
 
 TEST(ConvertTimecode, BetweenAllStandardRates_IsTheNearestFrameByExactArithmetic) {
+    CLIPVANE_LONG_TEST();
     std::mt19937_64 engine(23);
     for (const double from : standardFPSValues) {
         for (const double to : standardFPSValues) {
@@ -208,6 +213,7 @@ TEST(Frames, EveryByteAtEveryPlaceOfATimecode_IsReadAsTheDescriptionSays) {
 }
 
 TEST(Frames, AMillionTexts_AreReadAsTheDescriptionSays) {
+    CLIPVANE_LONG_TEST();
     const ThrowingFatal throwing;
     Texts texts;
     int read = 0;
