@@ -8,6 +8,12 @@ option(CLIPVANE_WARNINGS "Compile with the developers' warnings" OFF)
 option(CLIPVANE_HARDENED "Compile and link with the usual hardening" OFF)
 set(CLIPVANE_SANITIZERS "" CACHE STRING "Comma-separated sanitizers, handed to -fsanitize=")
 
+set(CLIPVANE_LINKER "" CACHE STRING "Linker, handed to -fuse-ld=, or empty for the compiler's own")
+
+if(CLIPVANE_LINKER)
+    add_link_options(-fuse-ld=${CLIPVANE_LINKER})
+endif()
+
 if(CLIPVANE_WARNINGS)
     # A constructor's parameter may have its member's name, which GCC's plain -Wshadow refuses.
     add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion
