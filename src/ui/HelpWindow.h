@@ -7,7 +7,8 @@
 
 namespace clipvane {
 
-/// The window with the instructions. Closing it, also by Esc, only hides it; shown again it is as it was left.
+/// The window with the instructions. Closing it, also by Esc, only hides it; shown again it is as
+/// it was left.
 class HelpWindow : public QMainWindow {
   public:
     HelpWindow();

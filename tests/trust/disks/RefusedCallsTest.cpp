@@ -12,8 +12,8 @@
 
 #include "base/SystemCalls.h"
 #include "commands/CSVReport.h"
-#include "commands/EventText.h"
 #include "commands/EditedEDL.h"
+#include "commands/EventText.h"
 #include "support/RowName.h"
 #include "support/Scale.h"
 #include "support/TemporaryFolder.h"
