@@ -3,21 +3,14 @@
 
 #pragma once
 
-#include <tuple>
 #include <vector>
 
 #include "model/TimelineEvent.h"
+#include "support/SameFields.h"
 
 namespace clipvane::fuzz {
 
-/// Whether all fields but the identifier have the same bytes.
-inline bool sameFields(const TimelineEvent& a, const TimelineEvent& b) {
-    const auto fields = [](const TimelineEvent& e) {
-        return std::tie(e.eventNumber, e.clipName, e.reelID, e.sourceIn, e.sourceOut, e.recordIn,
-                        e.recordOut, e.format, e.track, e.comments, e.highlighted, e.rawText);
-    };
-    return fields(a) == fields(b);
-}
+using test::sameFields;
 
 inline bool sameFields(const std::vector<TimelineEvent>& a, const std::vector<TimelineEvent>& b) {
     if (a.size() != b.size()) return false;

@@ -22,19 +22,11 @@ void requireFields(const TimelineEvent& event, std::string_view json) {
     auto id = object.at("id").get<std::string>();
     std::ranges::transform(id, id.begin(), [](char c) { return c >= 'a' ? char(c - 0x20) : c; });
     require(event.id.text() == id, "the identifier is the one in the text");
-    const TimelineEvent expected{event.id,
-                                 object.at("eventNumber"),
-                                 object.at("clipName"),
-                                 object.at("reelID"),
-                                 object.at("sourceIn"),
-                                 object.at("sourceOut"),
-                                 object.at("recordIn"),
-                                 object.at("recordOut"),
-                                 object.at("format"),
-                                 object.at("track"),
-                                 object.at("comments"),
-                                 object.at("highlighted"),
-                                 object.at("rawText")};
+    TimelineEvent expected;
+    const auto read = [&](const char* name, auto& field) {
+        if constexpr (!std::is_same_v<decltype(field), UUID&>) object.at(name).get_to(field);
+    };
+    forEachField(read, expected);
     require(sameFields(event, expected), "every field is the one in the text");
 }
 

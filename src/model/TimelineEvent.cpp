@@ -12,7 +12,13 @@
 namespace clipvane {
 namespace {
 
-bool sameText(const std::string& a, const std::string& b) {
+/// What is no text.
+template <class Value>
+bool same(const Value& a, const Value& b) {
+    return a == b;
+}
+
+bool same(const std::string& a, const std::string& b) {
     if (a == b) return true;
     if (isASCII(a) && isASCII(b)) return false;
     const auto left = icu::UnicodeString::fromUTF8(a);
@@ -26,13 +32,11 @@ bool sameText(const std::string& a, const std::string& b) {
 }  // namespace
 
 bool operator==(const TimelineEvent& a, const TimelineEvent& b) {
-    return a.id == b.id && sameText(a.eventNumber, b.eventNumber) &&
-           sameText(a.clipName, b.clipName) && sameText(a.reelID, b.reelID) &&
-           sameText(a.sourceIn, b.sourceIn) && sameText(a.sourceOut, b.sourceOut) &&
-           sameText(a.recordIn, b.recordIn) && sameText(a.recordOut, b.recordOut) &&
-           sameText(a.format, b.format) && sameText(a.track, b.track) &&
-           sameText(a.comments, b.comments) && a.highlighted == b.highlighted &&
-           sameText(a.rawText, b.rawText);
+    bool areEqual = true;
+    forEachField([&](const char*, const auto& left,
+                     const auto& right) { areEqual = areEqual && same(left, right); },
+                 a, b);
+    return areEqual;
 }
 
 }  // namespace clipvane

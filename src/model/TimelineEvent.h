@@ -29,6 +29,26 @@ struct TimelineEvent {
     std::string rawText;  ///< the source text that the event was built from
 };
 
+/// Calls `field(name, value...)` with each of the thirteen fields of `events` in turn: records with
+/// these members, whose types may differ. This is the one list of them; what compares, writes or
+/// reads all fields walks it.
+template <class Field, class... Events>
+void forEachField(Field field, Events&... events) {
+    field("id", events.id...);
+    field("eventNumber", events.eventNumber...);
+    field("clipName", events.clipName...);
+    field("reelID", events.reelID...);
+    field("sourceIn", events.sourceIn...);
+    field("sourceOut", events.sourceOut...);
+    field("recordIn", events.recordIn...);
+    field("recordOut", events.recordOut...);
+    field("format", events.format...);
+    field("track", events.track...);
+    field("comments", events.comments...);
+    field("highlighted", events.highlighted...);
+    field("rawText", events.rawText...);
+}
+
 /// All fields equal, compared in their order. Texts are equal when they are canonically equivalent:
 /// "é" is the same text as "e" followed by a combining acute accent.
 bool operator==(const TimelineEvent& a, const TimelineEvent& b);

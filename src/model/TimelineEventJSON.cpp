@@ -10,43 +10,44 @@
 namespace clipvane {
 namespace {
 
-/// Calls `field(key, value)` for the twelve fields behind "id", in the order of the record.
-template <class Event, class Field>
-void forEachFieldAfterID(Event& event, Field field) {
-    field("eventNumber", event.eventNumber);
-    field("clipName", event.clipName);
-    field("reelID", event.reelID);
-    field("sourceIn", event.sourceIn);
-    field("sourceOut", event.sourceOut);
-    field("recordIn", event.recordIn);
-    field("recordOut", event.recordOut);
-    field("format", event.format);
-    field("track", event.track);
-    field("comments", event.comments);
-    field("highlighted", event.highlighted);
-    field("rawText", event.rawText);
+using json = nlohmann::ordered_json;
+
+const auto& written(const auto& value) {
+    return value;
+}
+
+std::string written(const UUID& id) {
+    return id.text();
+}
+
+/// Neither a text nor a boolean is ever taken from a value of another type.
+void read(const json& from, auto& value) {
+    from.get_to(value);
+}
+
+void read(const json& from, UUID& id) {
+    const auto parsed = UUID::parse(from.get_ref<const std::string&>());
+    if (!parsed) throw Error{"JSON", 0, "The value of \"id\" is not a UUID."};
+    id = *parsed;
 }
 
 }  // namespace
 
 std::string encodeJSON(const TimelineEvent& event) {
-    nlohmann::ordered_json object;
-    object["id"] = event.id.text();
-    forEachFieldAfterID(event, [&](const char* key, const auto& value) { object[key] = value; });
+    json object;
+    forEachField([&](const char* key, const auto& value) { object[key] = written(value); }, event);
     // A text that is not valid UTF-8, which no reader makes, must not lose the rest.
-    return object.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
+    return object.dump(-1, ' ', false, json::error_handler_t::replace);
 }
 
-Result<TimelineEvent> decodeJSON(std::string_view json) try {
-    const auto object = nlohmann::json::parse(json);
+Result<TimelineEvent> decodeJSON(std::string_view text) try {
+    const auto object = json::parse(text);
     TimelineEvent event;
-    const auto id = UUID::parse(object.at("id").get_ref<const std::string&>());
-    if (!id) return tl::unexpected(Error{"JSON", 0, "The value of \"id\" is not a UUID."});
-    event.id = *id;
-    // Neither a text nor a boolean is ever taken from a value of another type.
-    forEachFieldAfterID(event, [&](const char* key, auto& value) { object.at(key).get_to(value); });
+    forEachField([&](const char* key, auto& value) { read(object.at(key), value); }, event);
     return event;
-} catch (const nlohmann::json::exception& error) {
+} catch (const Error& notAUUID) {
+    return tl::unexpected(notAUUID);
+} catch (const json::exception& error) {
     return tl::unexpected(Error{"JSON", error.id, replaceInvalidUTF8(error.what())});
 }
 

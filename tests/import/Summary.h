@@ -4,19 +4,20 @@
 #pragma once
 
 #include <string>
+#include <type_traits>
 
 #include "model/TimelineParseResult.h"
 
 namespace clipvane::test {
 
-/// All fields of the event but its identifier, each with a bar behind.
-inline std::string summary(const TimelineEvent& e) {
+/// All fields of the event but its identifier, the texts with a bar behind each.
+inline std::string summary(const TimelineEvent& event) {
     std::string text;
-    for (const auto& field : {e.eventNumber, e.clipName, e.reelID, e.sourceIn, e.sourceOut,
-                              e.recordIn, e.recordOut, e.format, e.track, e.comments, e.rawText}) {
-        text += field + "|";
-    }
-    return text + (e.highlighted ? "yes" : "no");
+    const auto add = [&](const char*, const auto& field) {
+        if constexpr (std::is_same_v<decltype(field), const std::string&>) text += field + "|";
+    };
+    forEachField(add, event);
+    return text + (event.highlighted ? "yes" : "no");
 }
 
 }  // namespace clipvane::test

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -34,6 +36,47 @@ const std::vector<TextField> textFields{
     {"comments", &TimelineEvent::comments},
     {"rawText", &TimelineEvent::rawText},
 };
+
+/// Stands for a value of any type.
+struct Anything {
+    template <class T>
+    operator T() const;
+};
+
+template <class... Values>
+constexpr bool hasFieldsFor = requires {
+    TimelineEvent{Values()...};
+};
+
+/// The number of a record's members, however they are called.
+template <class... Values>
+constexpr std::size_t fieldCount() {
+    if constexpr (hasFieldsFor<Values..., Anything>) {
+        return fieldCount<Values..., Anything>();
+    } else {
+        return sizeof...(Values);
+    }
+}
+
+TEST(TimelineEventFields, TheList_NamesEveryFieldInItsOrder) {
+    TimelineEvent event;
+    std::vector<const void*> places;
+    std::vector<std::string> names;
+    forEachField(
+        [&](const char* name, auto& field) {
+            places.push_back(&field);
+            names.emplace_back(name);
+        },
+        event);
+    EXPECT_EQ(names.size(), fieldCount());
+    EXPECT_EQ(std::ranges::adjacent_find(places, std::ranges::greater_equal()), places.end())
+        << "a field stands twice, or not in its place";
+    for (const auto& [name, field] : textFields) {
+        const auto found = std::ranges::find(names, name);
+        ASSERT_TRUE(found != names.end()) << name;
+        EXPECT_EQ(places[static_cast<std::size_t>(found - names.begin())], &(event.*field)) << name;
+    }
+}
 
 class EventText : public testing::TestWithParam<TextField> {};
 

@@ -10,17 +10,18 @@
 // VALUES is how many of the 256 bytes each byte becomes; without it all.
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <vector>
 
 #include "base/UTF8.h"
 #include "documents/GoodDocument.h"
 #include "import/TimelineParser.h"
+#include "support/SameFields.h"
 #include "support/ThrowingFatal.h"
 
 namespace {
@@ -38,17 +39,11 @@ std::vector<TimelineEvent> read(const GoodDocument& document, std::string_view b
     return TimelineParser::parseXML(bytes, TimelineParser::detectFPS(bytes).value_or(24));
 }
 
-/// The texts of an event, in the order of the record.
-std::array<const std::string*, 11> textsOf(const TimelineEvent& event) {
-    return {&event.eventNumber, &event.clipName, &event.reelID,    &event.sourceIn,
-            &event.sourceOut,   &event.recordIn, &event.recordOut, &event.format,
-            &event.track,       &event.comments, &event.rawText};
-}
-
-bool isSame(const TimelineEvent& a, const TimelineEvent& b) {
-    return a.highlighted == b.highlighted &&
-           std::ranges::equal(textsOf(a), textsOf(b),
-                              [](const auto* x, const auto* y) { return *x == *y; });
+bool isValid(const auto& field) {
+    if constexpr (std::is_same_v<decltype(field), const std::string&>) {
+        return validUTF8Prefix(field) == field.size();
+    }
+    return true;
 }
 
 /// Nothing, or what is wrong with the events of a document whose first `whole` events stand before
@@ -57,12 +52,13 @@ const char* faultIn(const std::vector<TimelineEvent>& events,
                     const std::vector<TimelineEvent>& good, std::size_t whole) {
     if (events.size() < whole) return "an event before the fault is lost";
     for (std::size_t i = 0; i < whole; ++i) {
-        if (!isSame(events[i], good[i])) return "an event before the fault has changed";
+        if (!test::sameFields(events[i], good[i])) return "an event before the fault has changed";
     }
     for (const TimelineEvent& event : events) {
-        for (const std::string* text : textsOf(event)) {
-            if (validUTF8Prefix(*text) != text->size()) return "a text is not valid UTF-8";
-        }
+        bool isText = true;
+        forEachField([&](const char*, const auto& field) { isText = isText && isValid(field); },
+                     event);
+        if (!isText) return "a text is not valid UTF-8";
         if (event.id == UUID{}) return "an event has no identifier";
         if (event.format != (event.rawText.empty() ? "" : good[0].format)) {
             return "an event has another format";

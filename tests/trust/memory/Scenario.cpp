@@ -147,18 +147,19 @@ void appendField(std::string& text, std::string_view field) {
     text += '|';
 }
 
+/// Identifiers are others in every run.
+void appendField(std::string&, const UUID&) {}
+
+void appendField(std::string& text, bool isHighlighted) {
+    appendField(text, isHighlighted ? std::string_view("highlighted") : "");
+}
+
 std::string describe(const TimelineDocument& document) {
     std::string text;
     appendField(text, document.sourceURL ? document.sourceURL->native() : "none");
     for (const auto* events : {&document.events, &document.removedEvents}) {
         for (const TimelineEvent& event : *events) {
-            for (const std::string* field :
-                 {&event.eventNumber, &event.clipName, &event.reelID, &event.sourceIn,
-                  &event.sourceOut, &event.recordIn, &event.recordOut, &event.format, &event.track,
-                  &event.comments, &event.rawText}) {
-                appendField(text, *field);
-            }
-            appendField(text, event.highlighted ? "highlighted" : "");
+            forEachField([&](const char*, const auto& field) { appendField(text, field); }, event);
         }
         text += "||";
     }
