@@ -1,14 +1,17 @@
 # SPDX-FileCopyrightText: 2026 The Clipvane developers
 # SPDX-License-Identifier: MIT
 
-# Debian's packages, through CPack: clipvane, the program, and libclipvane-core-dev, the logic for
-# other programs. scripts/package makes them.
+# Debian's packages, through CPack: clipvane, the program with its window; clipvane-cli, the batch
+# program; and libclipvane-core-dev, the logic for other programs. scripts/package makes them.
 #
 # Whoever builds a package answers for it, so the maintainer is named when it is built, by
 # `cpack -D CPACK_PACKAGE_CONTACT="Name <address>"`; CPack refuses to go on without.
 
 set(CPACK_GENERATOR DEB)
-set(CPACK_COMPONENTS_ALL program core)
+set(CPACK_COMPONENTS_ALL cli core)
+if(CLIPVANE_BUILD_WINDOW)
+    list(PREPEND CPACK_COMPONENTS_ALL program)
+endif()
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
@@ -38,6 +41,18 @@ rate. It is exact to the frame, and never changes a file that it reads.
 .
 The list can be converted to another frame rate, commented and thinned
 out, and exported as a CSV report and as a new EDL.")
+
+set(CPACK_DEBIAN_CLI_PACKAGE_NAME clipvane-cli)
+set(CPACK_DEBIAN_CLI_PACKAGE_SECTION video)
+set(CPACK_DEBIAN_CLI_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_CLI_DESCRIPTION
+"lists, converts, checks and stamps edit timelines in scripts
+Clipvane reads EDL, XMEML and FCPXML timelines, exactly to the frame. This
+program for the command line prints their events as a table, CSV, TSV or
+lines of JSON, writes them as EDLs, tells what is not read and what looks
+wrong, and writes into an EDL at which rate it counts.
+.
+It needs no desktop.")
 
 set(CPACK_DEBIAN_CORE_PACKAGE_NAME libclipvane-core-dev)
 set(CPACK_DEBIAN_CORE_PACKAGE_SECTION libdevel)

@@ -23,6 +23,11 @@ foreach(component IN LISTS CPACK_COMPONENTS_ALL)
     file(MAKE_DIRECTORY ${documents})
     file(RENAME ${share}/doc/copyright ${documents}/copyright)
 
+    # Debian's zsh looks for others' completions there.
+    if(EXISTS ${share}/zsh/site-functions)
+        file(RENAME ${share}/zsh/site-functions ${share}/zsh/vendor-completions)
+    endif()
+
     file(COPY_FILE ${CMAKE_CURRENT_LIST_DIR}/../../CHANGELOG.md ${documents}/changelog)
     file(WRITE ${documents}/changelog.Debian
 "clipvane (${version}) unstable; urgency=medium

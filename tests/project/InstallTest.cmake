@@ -21,14 +21,18 @@ set(expected
     lib/libclipvane_model.a
     lib/libclipvane_timecode.a
     share/applications/clipvane.desktop
+    share/bash-completion/completions/clipvane-cli
     share/doc/clipvane/LICENSE
     share/icons/hicolor/16x16/apps/clipvane.png
     share/icons/hicolor/24x24/apps/clipvane.png
     share/icons/hicolor/32x32/apps/clipvane.png
     share/icons/hicolor/48x48/apps/clipvane.png
     share/icons/hicolor/scalable/apps/clipvane.svg
+    share/man/man1/clipvane-cli.1
     share/man/man1/clipvane.1
-    share/metainfo/clipvane.metainfo.xml)
+    share/metainfo/clipvane-cli.metainfo.xml
+    share/metainfo/clipvane.metainfo.xml
+    share/zsh/site-functions/_clipvane-cli)
 if(NOT files STREQUAL expected)
     list(JOIN files "\n" files)
     message(FATAL_ERROR "Installed were\n${files}")
@@ -55,5 +59,11 @@ file(READ ${SOURCE_DIR}/CHANGELOG.md changelog)
 if(NOT changelog MATCHES "\n## \\[${VERSION}\\] - ([-0-9]+)\n")
     message(FATAL_ERROR "CHANGELOG.md has no release ${VERSION}")
 endif()
+set(batch_metainfo metainfo/clipvane-cli.metainfo.xml)
+expect_in(${batch_metainfo} "<id>invalid.clipvane.cli</id>")
+expect_in(${batch_metainfo} "<binary>clipvane-cli</binary>")
+expect_in(${batch_metainfo} "<release version=\"${VERSION}\" date=\"${CMAKE_MATCH_1}\">")
+expect_in(man/man1/clipvane-cli.1
+          ".TH CLIPVANE\\-CLI 1 ${CMAKE_MATCH_1} \"Clipvane ${VERSION}\" ")
 expect_in(${metainfo} "<release version=\"${VERSION}\" date=\"${CMAKE_MATCH_1}\">")
 expect_in(man/man1/clipvane.1 ".TH CLIPVANE 1 ${CMAKE_MATCH_1} \"Clipvane ${VERSION}\" ")
