@@ -12,6 +12,6 @@ display_packages=(xvfb openbox xdotool x11-utils xclip imagemagick dbus at-spi2-
 packaging_packages=(dpkg-dev file gzip lintian)
 validator_packages=(appstream desktop-file-utils librsvg2-bin man-db reuse
                     "${packaging_packages[@]}")
-test_packages=(clang clang-format clang-tidy lld libclang-rt-14-dev llvm-14 libgtest-dev libgmock-dev libbenchmark-dev locales strace
+test_packages=(jq clang clang-format clang-tidy lld libclang-rt-14-dev llvm-14 libgtest-dev libgmock-dev libbenchmark-dev locales strace
                valgrind weston "${display_packages[@]}" "${validator_packages[@]}")
 coverage_packages=(gcovr)
