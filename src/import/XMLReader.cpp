@@ -14,6 +14,7 @@
 #include <utility>
 
 #include "import/CommonTimelineXMLDelegate.h"
+#include "import/EntityChains.h"
 #include "import/EventReservation.h"
 #include "import/XMLEncoding.h"
 
@@ -33,7 +34,7 @@ constexpr std::size_t largestPiece = std::size_t{1} << 28;
 constexpr std::size_t mostLevels = 1'000'000;
 
 /// The parser calls itself for an entity within an entity, and its stack is not endless.
-constexpr int mostEntitiesWithReferences = 256;
+constexpr std::size_t longestEntityChain = 256;
 
 /// The parser compares each default that an element declares for an attribute with all before it.
 constexpr int mostDefaultAttributes = 10'000;
@@ -48,6 +49,7 @@ constexpr std::size_t mostEffort(std::size_t size) {
     return 8 * size + (std::size_t{64} << 20);
 }
 constexpr std::size_t effortPerDefaultAttribute = 16;
+constexpr std::size_t effortPerEntityStep = 64;
 
 /// One run of the parser over a document, calling back the delegate.
 class ParserRun {
@@ -142,15 +144,18 @@ class ParserRun {
         guarded(userData, [&](CommonTimelineXMLDelegate& reader) { reader.didEndElement(name); });
     }
 
-    static void entityDeclaration(void* userData, const XML_Char* /*name*/, int /*isParameter*/,
+    /// Parameter entities have no chains: the parser is not told to expand them.
+    static void entityDeclaration(void* userData, const XML_Char* name, int isParameter,
                                   const XML_Char* value, int length, const XML_Char* /*base*/,
                                   const XML_Char* /*system*/, const XML_Char* /*publicName*/,
                                   const XML_Char* /*notation*/) {
+        if (value == nullptr || isParameter != 0) return;
         auto& run = *static_cast<ParserRun*>(userData);
-        if (value == nullptr) return;
-        const std::string_view text(value, static_cast<std::size_t>(length));
-        if (text.find('&') == std::string_view::npos) return;
-        if (++run.entitiesWithReferences > mostEntitiesWithReferences) run.stop();
+        guarded(userData, [&](CommonTimelineXMLDelegate& reader) {
+            const std::size_t before = run.chains.steps();
+            if (!run.chains.declare(name, {value, static_cast<std::size_t>(length)})) run.stop();
+            reader.effort += (run.chains.steps() - before) * effortPerEntityStep;
+        });
     }
 
     static void attributeDeclaration(void* userData, const XML_Char* /*element*/,
@@ -168,7 +173,7 @@ class ParserRun {
     bool hasProgressed = false;  ///< called back during the current piece
     std::size_t level = 0;
     std::size_t effortAllowed = 0;
-    int entitiesWithReferences = 0;
+    EntityChains chains{longestEntityChain};
     int defaultAttributes = 0;
 };
 

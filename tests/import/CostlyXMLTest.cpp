@@ -3,7 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <random>
 #include <string>
+#include <vector>
 
 #include "import/TimelineParser.h"
 #include "support/LongTest.h"
@@ -39,6 +42,61 @@ TEST(CostlyXML, ChainOfEntities_IsFollowed) {
 TEST(CostlyXML, EndlessChainOfEntities_IsMalformed) {
     EXPECT_EQ(eventCount(chain(257)), 0U);
     EXPECT_EQ(eventCount(chain(200'000)), 0U);
+}
+
+/// Whatever the order in which its entities are declared.
+TEST(CostlyXML, ChainDeclaredInAnyOrder_IsMeasured) {
+    for (const int length : {256, 257}) {
+        std::vector<std::string> declarations{"<!ENTITY e" + std::to_string(length) + " 'x'>"};
+        for (int i = 0; i < length; ++i) {
+            declarations.push_back("<!ENTITY e" + std::to_string(i) + " 'a &amp; &e" +
+                                   std::to_string(i + 1) + "; b'>");
+        }
+        for (int order = 0; order < 20; ++order) {
+            std::ranges::shuffle(declarations, std::mt19937(static_cast<unsigned>(order)));
+            std::string xml = "<!DOCTYPE a [";
+            for (const std::string& declaration : declarations) xml += declaration;
+            EXPECT_EQ(eventCount(xml + "]><a><clip/>&e0;<clip/></a>"), length == 256 ? 2U : 0U);
+        }
+    }
+}
+
+/// The parser follows it while it reads the declaration.
+TEST(CostlyXML, EndlessChainInADefaultAttribute_IsMalformed) {
+    std::string xml = chain(200'000);
+    xml.insert(xml.find("]>"), "<!ATTLIST clip name CDATA '&e0;'>");
+    EXPECT_EQ(eventCount(xml), 0U);
+}
+
+TEST(CostlyXML, ManyEntitiesWithReferences_AreNotLimited) {
+    for (const int count : {257, 10'000}) {
+        std::string xml = "<!DOCTYPE a [<!ENTITY amp '&#38;#38;'>";
+        for (int i = 0; i < count; ++i) {
+            xml += "<!ENTITY e" + std::to_string(i) + " 'a &amp; &last; b'>";
+        }
+        xml += "<!ENTITY last 'x'>]><a><clip/><b>&e" + std::to_string(count - 1) + ";</b></a>";
+        EXPECT_EQ(eventCount(xml), 1U) << count;
+    }
+}
+
+/// Each of the many has a longer chain with each that is declared.
+TEST(CostlyXML, ChainUnderManyUsers_EndsBeforeItCosts) {
+    std::string xml = "<!DOCTYPE a [";
+    for (int i = 0; i < 100'000; ++i) {
+        xml += "<!ENTITY u" + std::to_string(i) + " '&e0;'>";
+    }
+    for (int i = 0; i < 250; ++i) {
+        xml += "<!ENTITY e" + std::to_string(i) + " '&e" + std::to_string(i + 1) + ";'>";
+    }
+    EXPECT_EQ(eventCount(xml + "]><a><clip/></a>"), 0U);
+}
+
+/// An error only where they are used.
+TEST(CostlyXML, EntitiesInACircle_CostNothingUnused) {
+    const std::string circle =
+        "<!DOCTYPE a [<!ENTITY e '&f;'><!ENTITY f '&g;'><!ENTITY g '&e;'>]><a><clip/>";
+    EXPECT_EQ(eventCount(circle + "<clip/></a>"), 2U);
+    EXPECT_EQ(eventCount(circle + "&e;<clip/></a>"), 1U);
 }
 
 TEST(CostlyXML, EntitiesWithoutReferences_AreNotLimited) {

@@ -59,6 +59,16 @@ def chain(reference, forwards):
     return content
 
 
+def users_of_a_chain(size, folder):
+    """Many entities that name one, whose own chain grows behind it."""
+    yield b"<!DOCTYPE a ["
+    for i in range(size // 40):
+        yield b"<!ENTITY u%d '&e0;'>" % i
+    for i in range(250):
+        yield b"<!ENTITY e%d '&e%d;'>" % (i, i + 1)
+    yield b"]>" + HEAD + TAIL
+
+
 def parameter_laughs(size, folder):
     yield b"<!DOCTYPE a [<!ENTITY % p0 '<!ENTITY e \"x\">'>"
     for level in range(1, 30):
@@ -172,6 +182,9 @@ CASES = [
     inside("references", b"<b>", b"&amp;", b"</b>"), inside("numeric-references", b"<b>", b"&#65;", b"</b>"),
     inside("references-in-a-name", b"<clip><name>", b"&#65;", b"</name></clip>", 3),
     xml("entity-declarations", numbered(b"<!DOCTYPE a [", b"<!ENTITY e%d 'x'>", b"]>" + HEAD + TAIL), 2),
+    xml("entity-declarations-with-references",
+        numbered(b"<!DOCTYPE a [", b"<!ENTITY e%d 'a &amp; b'>", b"]>" + HEAD + TAIL), 2),
+    xml("entities-of-one-that-grows", users_of_a_chain, lambda size: 2 if size < 100000 else 0),
     xml("element-declarations", numbered(b"<!DOCTYPE a [", b"<!ELEMENT e%d ANY>", b"]>" + HEAD + TAIL), 2),
     xml("default-attributes-of-many-elements", default_attributes(lambda size: min(size // 2, 200000)),
         lambda size: 2 if size < 30000 else 1),
