@@ -37,15 +37,9 @@ class Judge {
         }
         result.black = blackChanges();
         result.sums = sums();
-        for (const Unit& unit : news.units) {
-            if (unit.mate == nobody || unit.frames == 0) continue;
-            const Unit& mate = olds.units[unit.mate];
-            const Event& event = news.events[unit.event];
-            if (olds.events[mate.event].track != event.track) continue;
-            for (int64_t i = 0; i < unit.frames; ++i) {
-                result.played[event.track][*unit.place + i].push_back(*mate.place + i);
-            }
-        }
+        for (const Event& event : news.events) result.stretches[event.track] = {};
+        for (auto& [track, stretches] : result.stretches) stretches = stretchesOf(track);
+        std::erase_if(result.stretches, [&](const auto& entry) { return overlaps(entry.first); });
         return result;
     }
 
@@ -402,6 +396,38 @@ class Judge {
                 }
             }
         }
+    }
+
+    bool overlaps(const string& track) const {
+        int64_t frames = 0;
+        for (const Event& event : news.events) {
+            if (event.track == track) frames += event.frames();
+        }
+        return frames != static_cast<int64_t>(covered(news, track).size());
+    }
+
+    std::vector<std::array<int64_t, 3>> stretchesOf(const string& track) const {
+        std::map<int64_t, int64_t> played;  // places in OLD by places in NEW
+        for (const Unit& unit : news.units) {
+            if (unit.mate == nobody || news.events[unit.event].track != track) continue;
+            const Unit& mate = olds.units[unit.mate];
+            if (olds.events[mate.event].track != track) continue;
+            for (int64_t i = 0; i < unit.frames; ++i) played[*unit.place + i] = *mate.place + i;
+        }
+        const auto oldCovered = covered(olds, track);
+        const auto newCovered = covered(news, track);
+        std::vector<std::array<int64_t, 3>> stretches;
+        for (const auto& [place, oldPlace] : played) {
+            bool continues =
+                !stretches.empty() && stretches.back()[0] - stretches.back()[2] == place - oldPlace;
+            for (int64_t f = continues ? stretches.back()[1] : place; f < place; ++f) {
+                continues = continues && !newCovered.contains(f) &&
+                            !oldCovered.contains(f - (place - oldPlace));
+            }
+            if (!continues) stretches.push_back({place, place, oldPlace});
+            stretches.back()[1] = place + 1;
+        }
+        return stretches;
     }
 
     static std::set<int64_t> covered(const Side& side, const string& track) {

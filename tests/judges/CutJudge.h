@@ -28,8 +28,8 @@ struct CutVerdict {
     std::vector<std::string> oldRows;
     std::vector<std::string> black;  ///< "before ROW: FRAMES", track by track
     std::string sums;
-    /// For each track: the place in OLD's track of each record frame of NEW that plays it.
-    std::map<std::string, std::map<std::int64_t, std::vector<std::int64_t>>> played;
+    /// For each track on which no events of NEW overlap: from, to, and where it begins in OLD.
+    std::map<std::string, std::vector<std::array<std::int64_t, 3>>> stretches;
 };
 
 enum class JudgedBy { reel, name, reelAndName };

@@ -72,12 +72,18 @@ class Adder {
     Sums sums;
 };
 
-std::vector<PairedStretch> pairedRows(const CutPair& pair, const std::vector<Run>& runs) {
+std::vector<PairedStretch> pairedStretches(const CutPair& pair, const std::vector<Run>& runs) {
     std::vector<PairedStretch> stretches;
     stretches.reserve(runs.size());
     for (const Run& run : runs) {
-        stretches.push_back(
-            {pair.newCut[run.newEvent].row, pair.oldCut[run.oldEvent].row, run.from, run.to});
+        const CutEvent& n = pair.newCut[run.newEvent];
+        const CutEvent& o = pair.oldCut[run.oldEvent];
+        if (!n.hasFrames()) continue;
+        const bool isPlain = n.kind == Kind::plain;
+        stretches.push_back({run.newEvent, run.oldEvent,
+                             isPlain ? addChecked(n.offset(), run.from) : n.recordIn,
+                             isPlain ? addChecked(n.offset(), run.to) : n.recordOut,
+                             isPlain ? addChecked(o.offset(), run.from) : o.recordIn});
     }
     return stretches;
 }
@@ -114,7 +120,7 @@ CutDiff compareCuts(const CutList& oldList, const CutList& newList, std::optiona
     diff.newEvents = describeNew(pair.oldCut, pair.newCut, runs, partners, chains);
     diff.oldEvents = describeOld(pair.oldCut, pair.newCut, runs, partners);
     findReplacements(pair.oldCut, chains, diff.oldEvents, diff.newEvents);
-    diff.paired = pairedRows(pair, runs);
+    diff.paired = pairedStretches(pair, runs);
     diff.report = makeReport(pair.oldCut, chains, black, diff.newEvents, diff.oldEvents);
     std::erase_if(diff.report, [&](const ReportLine& line) { return !isChosen[line.track]; });
     diff.sums = Adder(pair, isChosen).add(diff.newEvents, diff.oldEvents);

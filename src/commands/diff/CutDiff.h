@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "commands/diff/CutEvent.h"
 #include "commands/diff/CutList.h"
 #include "commands/diff/CutPair.h"
 #include "commands/diff/Words.h"
@@ -18,11 +19,21 @@
 // A count that leaves 64 bits is fatal (base/Fatal.h).
 namespace clipvane::diff {
 
+/// Where an event's times lie, in frames. All are 0 for an odd event.
+struct Times {
+    std::int64_t sourceIn = 0;
+    std::int64_t sourceOut = 0;
+    std::int64_t recordIn = 0;
+    std::int64_t recordOut = 0;
+};
+
 /// An event of NEW.
 struct NewEvent {
     std::uint32_t row = 0;
-    std::uint32_t track = 0;               ///< index into CutDiff::tracks
-    std::optional<std::uint32_t> partner;  ///< row in OLD
+    std::uint32_t track = 0;  ///< index into CutDiff::tracks
+    Kind kind = Kind::plain;
+    Times times;
+    std::optional<std::uint32_t> partner;  ///< index into the events of OLD
     Words words;
 
     std::int64_t head = 0;         ///< trimmed: this much longer at its head
@@ -38,24 +49,27 @@ struct NewEvent {
     std::int64_t againFrames = 0;      ///< OLD uses these, though not as often
     std::int64_t elsewhereFrames = 0;  ///< paired with frames of OLD that are no partner's
 
-    std::optional<std::uint32_t> inPlaceOf;  ///< the lost event of OLD, as a row
+    std::optional<std::uint32_t> inPlaceOf;  ///< a lost event: index into the events of OLD
 };
 
 /// An event of OLD.
 struct OldEvent {
     std::uint32_t row = 0;
     std::uint32_t track = 0;
+    Kind kind = Kind::plain;
+    Times times;
     Words words;  ///< gone, fewer, not compared; none of it has a partner
     std::int64_t goneFrames = 0;
     std::int64_t fewerFrames = 0;
 };
 
-/// A stretch of NEW and the frames of OLD that it is paired with.
+/// A longest stretch of an event of NEW that plays one of OLD, frame for frame.
 struct PairedStretch {
-    std::uint32_t newRow = 0;
-    std::uint32_t oldRow = 0;
-    std::int64_t sourceFrom = 0;  ///< 0 and 1 where the two are compared as one block or thing
-    std::int64_t sourceTo = 0;
+    std::uint32_t newEvent = 0;  ///< index into the events of NEW
+    std::uint32_t oldEvent = 0;  ///< index into the events of OLD
+    std::int64_t newFrom = 0;    ///< in record frames, as the other two
+    std::int64_t newTo = 0;
+    std::int64_t oldFrom = 0;
 };
 
 /// One line of the report.

@@ -4,7 +4,6 @@
 #include "commands/diff/CutList.h"
 
 #include <algorithm>
-#include <string_view>
 
 namespace clipvane::diff {
 namespace {
@@ -12,14 +11,6 @@ namespace {
 bool isBlack(const TimelineEvent& event) {
     if (event.format == "EDL") return event.reelID == "BL" || event.reelID == "BLK";
     return event.rawText == "gap";
-}
-
-std::string_view givenName(const TimelineEvent& event) {
-    constexpr std::string_view standIn = "Clip ";
-    const std::string_view name = event.clipName;
-    const bool standsIn =
-        name.starts_with(standIn) && name.substr(standIn.size()) == event.eventNumber;
-    return standsIn ? std::string_view() : name;
 }
 
 }  // namespace
@@ -34,7 +25,7 @@ std::vector<ListedEvent> listEvents(const CutList& list, TextNumbers& numbers) {
         ListedEvent& result = listed.emplace_back();
         result.row = here;
         result.reel = numbers.of(event.reelID);
-        result.name = numbers.of(givenName(event));
+        result.name = numbers.of(givenName(event.clipName, event.eventNumber));
         result.track = numbers.of(event.track);
         const std::array<std::string_view, 4> texts{event.sourceIn, event.sourceOut, event.recordIn,
                                                     event.recordOut};
@@ -49,6 +40,13 @@ std::vector<ListedEvent> listEvents(const CutList& list, TextNumbers& numbers) {
         }
     }
     return listed;
+}
+
+std::string_view givenName(std::string_view clipName, std::string_view eventNumber) {
+    constexpr std::string_view standIn = "Clip ";
+    const bool standsIn =
+        clipName.starts_with(standIn) && clipName.substr(standIn.size()) == eventNumber;
+    return standsIn ? std::string_view() : clipName;
 }
 
 bool isFromEDL(const CutList& list) {

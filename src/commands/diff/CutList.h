@@ -6,6 +6,7 @@
 #include <array>
 #include <cstdint>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 #include "commands/diff/FrameCount.h"
@@ -14,9 +15,13 @@
 
 namespace clipvane::diff {
 
+/// What holds a list's events. Nothing here needs more of it than a size and events by row, and of
+/// an event its texts.
+using Events = std::vector<TimelineEvent>;
+
 /// One of the two lists that are compared. The events stay the caller's.
 struct CutList {
-    const std::vector<TimelineEvent>& events;
+    const Events& events;
     Counting counting;
 };
 
@@ -33,6 +38,9 @@ struct ListedEvent {
 /// The events of a list that take part: all but black, which is reel BL or BLK in an EDL, and a gap
 /// in an XML timeline.
 std::vector<ListedEvent> listEvents(const CutList& list, TextNumbers& numbers);
+
+/// The event's name; empty where "Clip" and the event's number stand in for one.
+std::string_view givenName(std::string_view clipName, std::string_view eventNumber);
 
 /// Whether all events of the list come from an EDL.
 bool isFromEDL(const CutList& list);

@@ -29,6 +29,10 @@ std::vector<Stretch> pairedOfOld(const std::vector<Run>& runs) {
     return paired;
 }
 
+Times timesOf(const CutEvent& event) {
+    return {event.sourceIn, event.sourceOut, event.recordIn, event.recordOut};
+}
+
 Word wordForUnpartnered(const CutEvent& event, const Unpaired& unpaired, Word lacking,
                         Word further) {
     if (!event.hasFrames()) return Word::notCompared;
@@ -63,6 +67,8 @@ class NewDescriber {
         NewEvent result;
         result.row = event.row;
         result.track = event.track;
+        result.kind = event.kind;
+        result.times = timesOf(event);
         result.newFrames = unpaired.lacking;
         result.againFrames = unpaired.further;
         result.elsewhereFrames = event.frames() - unpaired.lacking - unpaired.further;
@@ -71,7 +77,7 @@ class NewDescriber {
             result.words.add(wordForUnpartnered(event, unpaired, Word::added, Word::again));
             return result;
         }
-        result.partner = oldCut[all.front().oldEvent].row;
+        result.partner = all.front().oldEvent;
         describePieces(result, n);
         describeContent(result, n);
         describePlace(result, n);
@@ -166,7 +172,8 @@ std::vector<OldEvent> describeOld(const Cut& oldCut, const Cut& newCut,
     all.reserve(oldCut.size());
     for (std::uint32_t o = 0; o < oldCut.size(); ++o) {
         const CutEvent& event = oldCut[o];
-        OldEvent result{event.row, event.track, {}, unpaired[o].lacking, unpaired[o].further};
+        OldEvent result{event.row, event.track,         event.kind,         timesOf(event),
+                        {},        unpaired[o].lacking, unpaired[o].further};
         if (partners.ofOld(o).empty()) {
             result.words.add(wordForUnpartnered(event, unpaired[o], Word::gone, Word::fewer));
         }

@@ -5,7 +5,6 @@
 
 #include <cstdint>
 #include <optional>
-#include <string>
 #include <string_view>
 
 namespace clipvane::diff {
@@ -20,8 +19,5 @@ struct Counting {
 /// timecode each minute leaves out its first 2 frame numbers at base 30, 4 at base 60, but for
 /// every tenth minute.
 std::optional<std::int64_t> countFrames(std::string_view timecode, const Counting& counting);
-
-/// The timecode of a frame count, with ";" before the frames where they drop.
-std::string timecodeOf(std::int64_t frames, const Counting& counting);
 
 }  // namespace clipvane::diff

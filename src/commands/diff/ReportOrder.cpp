@@ -77,7 +77,7 @@ void findReplacements(const Cut& oldCut, const std::vector<TrackChain>& chains,
         for (std::size_t slot = 0; slot < lost.size(); ++slot) {
             if (lost[slot].size() != 1 || others[slot].size() != 1) continue;
             NewEvent& event = newEvents[others[slot].front()];
-            if (event.words.has(Word::added)) event.inPlaceOf = oldEvents[lost[slot].front()].row;
+            if (event.words.has(Word::added)) event.inPlaceOf = lost[slot].front();
         }
     }
 }

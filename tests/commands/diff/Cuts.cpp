@@ -42,16 +42,17 @@ std::string wordsOf(const diff::NewEvent& event) {
     return words;
 }
 
-std::string describe(const diff::NewEvent& event) {
+std::string describe(const diff::NewEvent& event, const diff::CutDiff& diff) {
     if (event.words.has(Word::notCompared)) return "not compared";
     const std::string frames = " (" + text(event.newFrames) + ' ' + text(event.againFrames) + ' ' +
                                text(event.elsewhereFrames) + ')';
-    if (event.partner) return "of " + text(*event.partner) + wordsOf(event) + frames;
+    if (event.partner)
+        return "of " + text(diff.oldEvents[*event.partner].row) + wordsOf(event) + frames;
     std::string words = event.words == Words{Word::added}   ? "new"
                         : event.words == Words{Word::again} ? "again"
                                                             : "?";
     words += frames;
-    if (event.inPlaceOf) words += " in place of " + text(*event.inPlaceOf);
+    if (event.inPlaceOf) words += " in place of " + text(diff.oldEvents[*event.inPlaceOf].row);
     return words;
 }
 
@@ -121,7 +122,7 @@ CutVerdict verdictOf(const diff::CutDiff& diff, std::size_t oldCount, std::size_
     CutVerdict verdict;
     verdict.oldRows.resize(oldCount);
     verdict.newRows.resize(newCount);
-    for (const auto& event : diff.newEvents) verdict.newRows[event.row] = describe(event);
+    for (const auto& event : diff.newEvents) verdict.newRows[event.row] = describe(event, diff);
     for (const auto& event : diff.oldEvents) verdict.oldRows[event.row] = describe(event);
     for (const auto& line : diff.report) {
         if (line.kind != diff::ReportLine::Kind::black) continue;
@@ -147,7 +148,7 @@ std::vector<std::string> reportOf(const diff::CutDiff& diff,
             lines.push_back(oldEvents[event.row].reelID + ' ' + describe(event));
         } else {
             const auto& event = diff.newEvents[line.event];
-            lines.push_back(newEvents[event.row].reelID + ' ' + describe(event));
+            lines.push_back(newEvents[event.row].reelID + ' ' + describe(event, diff));
         }
     }
     return lines;

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <sstream>
 
+#include "commands/diff/ChangeList.h"
 #include "commands/diff/Cuts.h"
 #include "support/Random.h"
 #include "support/Scale.h"
@@ -191,6 +192,14 @@ void expectJudged(const Events& oldList, const Events& newList, diff::By by, Jud
     ASSERT_EQ(found.oldRows, expected.oldRows);
     ASSERT_EQ(found.sums, expected.sums);
     ASSERT_THAT(found.black, testing::UnorderedElementsAreArray(expected.black));
+    for (const auto& [track, stretches] : expected.stretches) {
+        const auto number = std::ranges::find(diff.tracks, track) - diff.tracks.begin();
+        std::vector<std::array<std::int64_t, 3>> own;
+        for (const auto& s : diff::changeStretches(diff, static_cast<std::uint32_t>(number))) {
+            own.push_back({s.from, s.to, s.oldFrom});
+        }
+        ASSERT_EQ(own, stretches) << track;
+    }
 }
 
 /// What mirrors whatever the readings: frames are kept or not, whichever list is called old.
