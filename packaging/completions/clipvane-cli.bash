@@ -12,6 +12,7 @@ _clipvane_cli() {
         list) words="$reading --to --format --output --force" ;;
         convert) words="$reading --to --output --directory --force" ;;
         check) words="$reading --format --strict" ;;
+        diff) words="$reading --to --by --track --format --verbose --strict --output --force" ;;
         stamp) words="$reading --output --directory --in-place --force --restamp" ;;
     esac
     case $previous in
@@ -23,10 +24,12 @@ _clipvane_cli() {
         -f | --format)
             words='table csv tsv jsonl' every=
             [ "$command" = check ] && words='text jsonl'
+            [ "$command" = diff ] && words='table csv jsonl edl'
             ;;
+        --by) words='reel name reel+name' every= ;;
         *)
             if [ "$COMP_CWORD" -eq 1 ]; then
-                words='list convert check stamp'
+                words='list convert check stamp diff'
             elif [[ $current != -* ]]; then
                 words= every=
             fi

@@ -13,6 +13,7 @@ std::vector<std::unique_ptr<Command>> allCommands() {
     commands.push_back(makeConvertCommand());
     commands.push_back(makeCheckCommand());
     commands.push_back(makeStampCommand());
+    commands.push_back(makeDiffCommand());
     return commands;
 }
 

@@ -17,5 +17,6 @@ std::unique_ptr<Command> makeListCommand();
 std::unique_ptr<Command> makeConvertCommand();
 std::unique_ptr<Command> makeCheckCommand();
 std::unique_ptr<Command> makeStampCommand();
+std::unique_ptr<Command> makeDiffCommand();
 
 }  // namespace clipvane::cli

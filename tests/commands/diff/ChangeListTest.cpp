@@ -76,8 +76,9 @@ TEST(ChangeList, WhatIsNotInOld_IsAGapAndAComment) {
     const auto made = make({cut("A", 0, 50, 0), cut("B", 0, 50, 50)},
                            {cut("A", 0, 50, 0), cut("X", 0, 12, 50), cut("B", 0, 50, 62)});
     ASSERT_TRUE(made.text.has_value());
-    EXPECT_THAT(*made.text,
-                HasSubstr("00:00:02:00\n* NOT IN OLDCUT: 00:00:02:00 00:00:02:12 X Clip 002\n\n002"));
+    EXPECT_THAT(
+        *made.text,
+        HasSubstr("00:00:02:00\n* NOT IN OLDCUT: 00:00:02:00 00:00:02:12 X Clip 002\n\n002"));
 }
 
 TEST(ChangeList, NamesThatWouldBeRead_AreBroken) {
