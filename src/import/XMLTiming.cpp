@@ -4,8 +4,7 @@
 #include "base/Number.h"
 #include "import/CommonTimelineXMLDelegate.h"
 #include "import/XMLText.h"
-#include "timecode/FrameRate.h"
-#include "timecode/TwoDigitFields.h"
+#include "timecode/Timecode.h"
 
 namespace clipvane {
 namespace {
@@ -18,36 +17,6 @@ bool isNegativeNumber(std::string_view text) {
     if (!text.starts_with('-')) return false;
     const auto number = parseNumber(text);
     return number && *number < 0;
-}
-
-std::optional<TimecodeFields> lenientFields(std::string_view text) {
-    TimecodeFields fields{};
-    std::size_t count = 0;
-    while (true) {
-        std::size_t length = 0;
-        while (length < text.size() && text[length] != ':' && text[length] != ';') ++length;
-        if (const auto number = parseInteger(text.substr(0, length))) {
-            if (count == fields.size()) return std::nullopt;
-            fields[count++] = *number;
-        }
-        if (length == text.size()) break;
-        text.remove_prefix(length + 1);
-    }
-    if (count != fields.size()) return std::nullopt;
-    return fields;
-}
-
-std::int64_t countFrames(const TimecodeFields& fields, double fps) {
-    const auto [hours, minutes, seconds, frames] = fields;
-    const std::int64_t totalMinutes = addChecked(multiplyChecked(hours, 60), minutes);
-    const std::int64_t totalSeconds = addChecked(multiplyChecked(totalMinutes, 60), seconds);
-    return addChecked(multiplyChecked(totalSeconds, frameBase(fps)), frames);
-}
-
-std::optional<std::int64_t> timecodeFrames(std::string_view text, double fps) {
-    if (const auto fields = readTwoDigitFields(text)) return countFrames(*fields, fps);
-    if (const auto fields = lenientFields(text)) return countFrames(*fields, fps);
-    return std::nullopt;
 }
 
 /// Frames in "numerator/denominator" seconds. A numerator that is no number counts as zero.
@@ -69,7 +38,7 @@ std::optional<std::int64_t> secondsFrames(std::string_view seconds, double fps) 
 }
 
 std::optional<std::int64_t> cleanedFrames(std::string_view text, double fps) {
-    if (holdsColon(text)) return timecodeFrames(text, fps);
+    if (holdsColon(text)) return clipvane::frames(text, fps);
     if (text.ends_with('s')) return secondsFrames(text.substr(0, text.size() - 1), fps);
     const auto number = parseNumber(text);
     if (!number || *number < 0) return std::nullopt;
@@ -92,23 +61,8 @@ std::optional<std::int64_t> CommonTimelineXMLDelegate::frames(std::string_view f
 }
 
 std::string CommonTimelineXMLDelegate::timecode(std::int64_t fromFrames) const {
-    const std::int64_t base = frameBase(fps);
-    std::string text;
-    if (fitsTwoDigitFields(fromFrames, base)) {
-        text.resize(twoDigitLength);
-        writeTwoDigitFields(std::span<char, twoDigitLength>(text), fromFrames, base, ':');
-        return text;
-    }
-    const std::int64_t seconds = fromFrames / base;
-    const std::int64_t frames = fromFrames - seconds * base;
-    appendPadded(text, seconds / 3600, 2);
-    text += ':';
-    appendPadded(text, seconds / 60 % 60, 2);
-    text += ':';
-    appendPadded(text, seconds % 60, 2);
-    text += ':';
-    appendPadded(text, frames, 2);
-    return text;
+    constexpr bool usesDropFrameSeparator = false;
+    return clipvane::timecode(fromFrames, fps, usesDropFrameSeparator);
 }
 
 }  // namespace clipvane

@@ -42,11 +42,13 @@ std::optional<TimecodeFields> parseFields(std::string_view text) {
     return fields ? fields : lenientFields(text);
 }
 
+std::int64_t countSeconds(const TimecodeFields& fields) {
+    const std::int64_t minutes = addChecked(multiplyChecked(fields[0], 60), fields[1]);
+    return addChecked(multiplyChecked(minutes, 60), fields[2]);
+}
+
 std::int64_t countFrames(const TimecodeFields& fields, std::int64_t base) {
-    const auto [hours, minutes, seconds, frames] = fields;
-    const std::int64_t totalMinutes = addChecked(multiplyChecked(hours, 60), minutes);
-    const std::int64_t totalSeconds = addChecked(multiplyChecked(totalMinutes, 60), seconds);
-    return addChecked(multiplyChecked(totalSeconds, base), frames);
+    return addChecked(multiplyChecked(countSeconds(fields), base), fields[3]);
 }
 
 std::int64_t convertedFrames(const TimecodeFields& fields, std::int64_t from, std::int64_t to) {
@@ -78,7 +80,9 @@ void appendTimecode(std::string& text, std::int64_t count, std::int64_t base, ch
 std::optional<std::int64_t> frames(std::string_view from, double fps) {
     const auto fields = parseFields(from);
     if (!fields) return std::nullopt;
-    return countFrames(*fields, frameBase(fps));
+    // Of an impossible time and an impossible rate the time is told.
+    const std::int64_t seconds = countSeconds(*fields);
+    return addChecked(multiplyChecked(seconds, frameBase(fps)), (*fields)[3]);
 }
 
 std::string timecode(std::int64_t fromFrames, double fps, bool usesDropFrameSeparator) {

@@ -248,6 +248,8 @@ TEST(XMLFramesDeathTest, ASumBeyondSixtyFourBits_StopsTheProgram) {
     EXPECT_DEATH(reader.frames("0:0:9223372036854775807:0"), "multiplication");
     EXPECT_DEATH(reader.frames("0:0:1:9223372036854775807"), "addition");
     EXPECT_DEATH(reader.frames("0:0:-1:-9223372036854775808"), "addition");
+    // The time is told before the rate.
+    EXPECT_DEATH(CommonTimelineXMLDelegate(1e30).frames("9223372036854775807:0:0:0"), "exceeds");
 }
 
 }  // namespace
