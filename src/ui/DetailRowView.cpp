@@ -9,6 +9,12 @@
 #include "ui/TextLabel.h"
 
 namespace clipvane {
+namespace {
+
+/// Percent. A duration of 9,999 frames then fits into the narrowest row.
+constexpr int leastValueSpacing = 92;
+
+}  // namespace
 
 DetailRowView::DetailRowView(const QString& label, const QString& value, const QColor& valueColor,
                              QWidget* parent)
@@ -17,6 +23,7 @@ DetailRowView::DetailRowView(const QString& label, const QString& value, const Q
       valueLabel(new TextLabel({}, monospacedFont(17), valueColor, this)) {
     resize(static_cast<int>(detailWidth), static_cast<int>(detailRowHeight));
     valueLabel->setElideMode(Qt::ElideMiddle);
+    valueLabel->setLeastSpacing(leastValueSpacing);
     keyLabel->setBuddy(valueLabel);
     setValue(value);
 }

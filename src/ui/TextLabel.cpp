@@ -13,6 +13,19 @@
 #include "ui/Text.h"
 
 namespace clipvane {
+namespace {
+
+/// Whether the ink ends within `width`; the blank after the last letter may be cut off.
+bool fits(const QString& line, const QFont& font, int width) {
+    return QFontMetricsF(font).tightBoundingRect(line).right() <= width;
+}
+
+QFont withSpacing(QFont font, int percent) {
+    font.setLetterSpacing(QFont::PercentageSpacing, percent);
+    return font;
+}
+
+}  // namespace
 
 TextLabel::TextLabel(const QString& text, const QFont& font, const QColor& colour, QWidget* parent)
     : QLabel(parent) {
@@ -81,10 +94,17 @@ TextLabel::Lines TextLabel::lines(int width) const {
         if (start >= line.size() && !result.texts.isEmpty()) return result;
     }
     const QString rest = start == 0 ? line : line.mid(start).trimmed();
-    const QString shown = fontMetrics().elidedText(rest, mode, width);
-    result.texts.append(shown);
-    result.elided = shown != rest;
+    result.font = fittingFont(rest, width);
+    result.elided = !result.font.has_value();
+    result.texts.append(result.elided ? fontMetrics().elidedText(rest, mode, width) : rest);
     return result;
+}
+
+std::optional<QFont> TextLabel::fittingFont(const QString& line, int width) const {
+    if (!fits(line, withSpacing(font(), leastSpacing), width)) return std::nullopt;
+    int percent = 100;
+    while (percent > leastSpacing && !fits(line, withSpacing(font(), percent), width)) --percent;
+    return withSpacing(font(), percent);
 }
 
 bool TextLabel::event(QEvent* event) {
@@ -100,8 +120,9 @@ bool TextLabel::event(QEvent* event) {
 void TextLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setPen(colour());
-    const QStringList texts = lines(width()).texts;
-    const QFontMetrics metrics = fontMetrics();
+    const auto [texts, font, elided] = lines(width());
+    if (font) painter.setFont(*font);
+    const QFontMetrics metrics = painter.fontMetrics();
     const int spacing = metrics.lineSpacing();
     int y = baseline;
     if (y < 0) {

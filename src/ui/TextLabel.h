@@ -3,7 +3,9 @@
 
 #pragma once
 
+#include <QFont>
 #include <QLabel>
+#include <optional>
 
 namespace clipvane {
 
@@ -16,6 +18,9 @@ class TextLabel : public QLabel {
 
     QColor colour() const;
     void setElideMode(Qt::TextElideMode mode);
+    /// Lets the letters stand closer, down to `percent` of their usual distance, before a text is
+    /// elided.
+    void setLeastSpacing(int percent) { leastSpacing = percent; }
     /// Wraps to at most `count` lines.
     void setMaximumLines(int count);
     /// The y of the text's baseline; without one the text is centred vertically.
@@ -35,12 +40,15 @@ class TextLabel : public QLabel {
 
     struct Lines {
         QStringList texts;
+        std::optional<QFont> font;  ///< other than the label's own, if the last line needs it
         bool elided = false;
     };
     Lines lines(int width) const;
+    std::optional<QFont> fittingFont(const QString& line, int width) const;
 
     Qt::TextElideMode mode = Qt::ElideRight;
     int lineLimit = 1;
+    int leastSpacing = 100;
     int baseline = -1;
 };
 
