@@ -17,7 +17,7 @@ SIZES = ((1180, 720), (1366, 768))
 
 def panel_content(desk):
     """Top and bottom of what the detail panel can show, on the screen."""
-    _, top, _, height = access.rectangle(desk.find("filler", "Selected Event"))
+    _, top, _, height = access.rectangle(desk.find("panel", "Selected Event"))
     return top + 14 + 24, top + height - 14
 
 
