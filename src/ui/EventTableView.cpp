@@ -129,6 +129,26 @@ void EventTableView::showColumn(int column) {
     if (left < bar.value()) bar.setValue(left);
 }
 
+/// The column one `step` from `column`, or from the nearest that is in view. Shows it, and with it
+/// the next one that is hidden on that side: each press brings something new.
+int EventTableView::stepColumn(int column, int step) {
+    const QHeaderView& header = *horizontalHeader();
+    const int end = model()->columnCount() - 1;
+    const int left = horizontalScrollBar()->value();
+    const int right = left + viewport()->width();
+    int first = 0;
+    while (first < end && header.sectionPosition(first) < left) ++first;
+    int last = first;
+    const auto endOf = [&](int index) {
+        return header.sectionPosition(index) + header.sectionSize(index);
+    };
+    while (last < end && endOf(last + 1) <= right) ++last;
+    const int stepped = std::clamp(std::clamp(column, first, last) + step, 0, end);
+    showColumn(std::clamp(step > 0 ? last + 1 : first - 1, 0, end));
+    showColumn(stepped);
+    return stepped;
+}
+
 void EventTableView::updateGeometries() {
     QHeaderView& header = *horizontalHeader();
     setViewportMargins(0, headerHeight, 0, 0);
@@ -211,17 +231,15 @@ QModelIndex EventTableView::moveCursor(CursorAction action, Qt::KeyboardModifier
             row = last;
             break;
         case MoveLeft:
-            column -= 1;
+            column = stepColumn(column, -1);
             break;
         case MoveRight:
-            column += 1;
+            column = stepColumn(column, 1);
             break;
         case MoveNext:
         case MovePrevious:
             break;
     }
-    column = std::clamp(column, 0, model()->columnCount() - 1);
-    if (column != current.column()) showColumn(column);
     return model()->index(std::clamp(row, 0, last), column);
 }
 

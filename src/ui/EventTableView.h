@@ -50,6 +50,7 @@ class EventTableView : public QTableView {
     int firstRowIn(const QRect& area) const;
     int lastRowIn(const QRect& area) const;
     void showColumn(int column);
+    int stepColumn(int column, int step);
     void keepMinimumWidth(int column, int width);
     void fitLastColumn();
     void paintRow(QPainter& painter, int row, const QRect& dirty) const;

@@ -261,6 +261,69 @@ TEST_F(EventTableTest, RightKey_BringsTheLastColumnIntoView) {
     EXPECT_EQ(view.horizontalScrollBar()->value(), 0);
 }
 
+TEST_F(EventTableTest, RightAndLeftKeys_EachPressMovesTheColumnAndScrolls) {
+    fill(1);
+    view.resize(718, 530);  // as at the window's least width
+    view.selectRow(0);
+    const QScrollBar& bar = *view.horizontalScrollBar();
+    int column = 0;
+    for (const int scrolled : {30, 162, 294, 372}) {
+        press(Qt::Key_Right);
+        EXPECT_EQ(bar.value(), scrolled);
+        EXPECT_EQ(view.currentIndex().column(), ++column);
+    }
+    ASSERT_EQ(bar.maximum(), 372);
+    for (const int scrolled : {344, 64, 0}) {
+        press(Qt::Key_Left);
+        EXPECT_EQ(bar.value(), scrolled);
+        EXPECT_EQ(view.currentIndex().column(), --column);
+    }
+    EXPECT_EQ(selected(), 0U);
+}
+
+TEST_F(EventTableTest, RightAndLeftKeys_ReachEveryColumnInView) {
+    fill(1);
+    view.resize(718, 530);
+    view.selectRow(0);
+    for (int column = 1; column < 8; ++column) {
+        press(Qt::Key_Right);
+        EXPECT_EQ(view.currentIndex().column(), column);
+        EXPECT_TRUE(view.viewport()->rect().contains(view.visualRect(view.currentIndex())));
+    }
+    for (int column = 6; column >= 0; --column) {
+        press(Qt::Key_Left);
+        EXPECT_EQ(view.currentIndex().column(), column);
+        EXPECT_TRUE(view.viewport()->rect().contains(view.visualRect(view.currentIndex())));
+    }
+}
+
+TEST_F(EventTableTest, ScrolledByMouse_LeftAndRightKeysBeginWithWhatIsInView) {
+    fill(1);
+    view.resize(718, 530);
+    view.selectRow(0);
+    QScrollBar& bar = *view.horizontalScrollBar();
+    bar.setValue(bar.maximum());
+    press(Qt::Key_Left);
+    EXPECT_EQ(bar.value(), 344);
+    EXPECT_EQ(view.currentIndex().column(), 2);
+    for (int i = 0; i < 7; ++i) press(Qt::Key_Right);
+    bar.setValue(0);
+    press(Qt::Key_Right);
+    EXPECT_EQ(bar.value(), 30);
+    EXPECT_EQ(view.currentIndex().column(), 4);
+}
+
+TEST_F(EventTableTest, ColumnWiderThanTheView_IsNoTrapForTheKeys) {
+    fill(1);
+    view.resize(300, 530);
+    view.setColumnWidth(1, 900);
+    view.selectRow(0);
+    for (int i = 0; i < 9; ++i) press(Qt::Key_Right);
+    EXPECT_EQ(view.horizontalScrollBar()->value(), view.horizontalScrollBar()->maximum());
+    for (int i = 0; i < 9; ++i) press(Qt::Key_Left);
+    EXPECT_EQ(view.horizontalScrollBar()->value(), 0);
+}
+
 TEST_F(EventTableTest, HeaderEdgeDoubleClicked_ColumnFitsItsContents) {
     fill(3);
     document.events[1].clipName = std::string(60, 'W');
