@@ -141,7 +141,10 @@ void ClipvaneStyle::drawControl(ControlElement element, const QStyleOption* opti
         case CE_MenuEmptyArea:
             return painter->fillRect(option->rect, colours::menu);
         case CE_FocusFrame:
-            return paintFocusRing(*painter, option->rect, 4);
+            if (option->state & State_KeyboardFocusChange) {
+                paintFocusRing(*painter, option->rect, 4);
+            }
+            return;
         default:
             QProxyStyle::drawControl(element, option, painter, widget);
     }

@@ -274,8 +274,6 @@ void EventTableView::keyPressEvent(QKeyEvent* event) {
 
 void EventTableView::focusInEvent(QFocusEvent* event) {
     QTableView::focusInEvent(event);
-    const Qt::FocusReason reason = event->reason();
-    if (reason != Qt::TabFocusReason && reason != Qt::BacktabFocusReason) return;
     if (focusFrame == nullptr) focusFrame = new QFocusFrame(this);
     focusFrame->setWidget(this);
 }

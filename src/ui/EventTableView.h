@@ -55,7 +55,7 @@ class EventTableView : public QTableView {
     void fitLastColumn();
     void paintRow(QPainter& painter, int row, const QRect& dirty) const;
 
-    QFocusFrame* focusFrame = nullptr;  ///< seen while the keyboard has led here
+    QFocusFrame* focusFrame = nullptr;  ///< around the list and its header
     QStringListModel noRows;            ///< the vertical header's model
     int chosenLastWidth = 0;            ///< that the user gave the last column
     bool fitting = false;

@@ -12,6 +12,7 @@
 #include "ui/Accessibility.h"
 #include "ui/ApplicationIcon.h"
 #include "ui/ClipvaneStyle.h"
+#include "ui/FocusRing.h"
 #include "ui/Fonts.h"
 #include "ui/Palette.h"
 
@@ -52,6 +53,7 @@ void dressApplication(QApplication& application) {
     QToolTip::setFont(systemFont(13));
     QToolTip::setPalette(darkPalette());
     installAccessibility();
+    new FocusRing(application);
 }
 
 }  // namespace clipvane

@@ -6,10 +6,11 @@
 from pathlib import Path
 
 import expected
-from access import centre
+from access import centre, rectangle
 from desk import run_test
 from hands import click_at, press, type_text
-from waiting import stays, wait_equal
+from screen import Screenshot
+from waiting import stays, wait_equal, wait_for
 
 PIER = Path(__file__).resolve().parent / "timelines" / "pier.edl"
 LOADED = "Loaded 5 events from pier.edl. FPS: 25 (File)."
@@ -19,6 +20,8 @@ TAB_ORDER = [
     ("push button", "Copy Info"), ("push button", "Export CSV"), ("push button", "Export EDL"),
     ("push button", "Help"), ("table", "Event Viewer"), ("text", "Comments"),
 ]
+
+FOCUS_RING = 0x6c, 0xb1, 0xff
 
 OPENING_KEYS = ["Down", "Up", "Left", "Right", "space", "Return", "F4"]
 KEYS_WITHOUT_EFFECT = ["Home", "End", "Page_Up", "Page_Down", "5", "6", "b", "BackSpace", "Delete"]
@@ -31,6 +34,23 @@ def go_to(desk, control):
             return
         press("Tab")
     desk.await_focus(*control)
+
+
+def is_ringed(desk, control):
+    """At the middle of its left edge."""
+    left, top, _, height = rectangle(desk.find(*control))
+    return Screenshot().pixel(left, top + height // 2) == FOCUS_RING
+
+
+def first_moment(desk):
+    with desk.step("the ring shows where the keyboard is before anything was used"):
+        wait_for(lambda: is_ringed(desk, TAB_ORDER[0]), "the ring")
+        desk.picture("first-moment")
+    with desk.step("a click hides the ring, a key shows it again"):
+        click_at(*centre(desk.find("label", "Global FPS")))
+        wait_for(lambda: not is_ringed(desk, TAB_ORDER[0]), "the ring to go")
+        press("Escape")
+        wait_for(lambda: is_ringed(desk, TAB_ORDER[0]), "the ring")
 
 
 def open_by_keys(desk):
@@ -144,6 +164,7 @@ def comments(desk):
 
 def keyboard(desk):
     desk.start()
+    first_moment(desk)
     open_by_keys(desk)
     tab_order(desk)
     list_keys(desk)
