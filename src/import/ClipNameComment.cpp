@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "base/Characters.h"
+#include "import/ByteBlock.h"
 
 namespace clipvane {
 namespace {
@@ -31,7 +32,23 @@ bool continuesKeyword(std::string_view rest) {
     return true;
 }
 
+/// Whether the letters R, O and M stand together somewhere, in either case. Most comments do not
+/// hold them, and are through with that.
+bool mayContainKeyword(std::string_view line) {
+    constexpr std::size_t reach = sizeof(ByteBlock) + 2;
+    if (line.size() < reach) return true;
+    const std::size_t last = line.size() - reach;
+    for (std::size_t position = 0;; position = std::min(position + sizeof(ByteBlock), last)) {
+        const char* const bytes = line.data() + position;
+        const bool isFound = holdsAnywhere(((loadBlock(bytes) | 0x20) == 'r') &
+                                           ((loadBlock(bytes + 1) | 0x20) == 'o') &
+                                           ((loadBlock(bytes + 2) | 0x20) == 'm'));
+        if (isFound || position == last) return isFound;
+    }
+}
+
 bool containsKeyword(std::string_view line) {
+    if (!mayContainKeyword(line)) return false;
     const auto mayStart = [](char c) { return c == 'F' || c == 'f' || c == ligatureFF.front(); };
     while (line.size() >= keyword.size()) {
         const auto lastStart = line.end() - keyword.size() + 1;

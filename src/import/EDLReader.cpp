@@ -64,6 +64,7 @@ class Reader {
 };
 
 void Reader::readLine(std::string_view line) {
+    if (line.empty()) return;
     if (const auto columns = matchEventLine(line)) {
         completeCurrentEvent();
         current.columns = *columns;

@@ -26,25 +26,7 @@ bool takeDigit(std::string_view& rest) {
     return true;
 }
 
-constexpr std::string_view form = "00:00:00:00";
-
-/// Whether `text` begins with a timecode in ASCII digits, as nearly all do.
-bool startsWithASCIITimecode(std::string_view text) {
-    if (text.size() < form.size()) return false;
-    bool matches = true;
-    for (std::size_t i = 0; i < form.size(); ++i) {
-        const char c = text.data()[i];
-        matches &= form[i] == ':' ? c == ':' : isASCIIDigit(static_cast<unsigned char>(c));
-    }
-    return matches;
-}
-
 bool takeTimecode(std::string_view& rest, std::string_view& timecode) {
-    if (startsWithASCIITimecode(rest)) {
-        timecode = rest.substr(0, form.size());
-        rest.remove_prefix(form.size());
-        return true;
-    }
     const std::string_view start = rest;
     for (int field = 0; field < 4; ++field) {
         if (field > 0 && !takeCharacter(rest, ':')) return false;
@@ -62,9 +44,14 @@ void takeDuration(std::string_view& rest) {
 
 }  // namespace
 
+std::optional<EventLine> matchEventLine(std::string_view line) {
+    if (const auto columns = matchPlainEventLine(line)) return columns;
+    return matchAnyEventLine(line);
+}
+
 // Every column is a run that cannot contain what follows it, so the longest run is the only one
 // that can match: one pass decides, without going back.
-std::optional<EventLine> matchEventLine(std::string_view line) {
+std::optional<EventLine> matchAnyEventLine(std::string_view line) {
     std::string_view rest = line;
     EventLine columns;
 

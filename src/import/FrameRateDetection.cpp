@@ -3,38 +3,28 @@
 
 #include "import/FrameRateDetection.h"
 
-#include <array>
-#include <cstdint>
-#include <cstring>
-
 #include "base/Characters.h"
+#include "import/ByteBlock.h"
 #include "import/FrameRateText.h"
 
 namespace clipvane {
 namespace {
 
-constexpr std::size_t blockSize = 16;
-using Block = std::uint8_t __attribute__((vector_size(blockSize)));
+constexpr std::size_t blockSize = sizeof(ByteBlock);
 
-/// Sixteen bytes in lower case; other characters may come out as letters, which a closer look sorts
-/// out.
-Block lowerCaseBlock(const char* bytes) {
-    Block block;
-    std::memcpy(&block, bytes, blockSize);
-    return block | 0x20;
+/// Bytes in lower case; other characters may come out as letters, which a closer look sorts out.
+ByteBlock lowerCaseBlock(const char* bytes) {
+    return loadBlock(bytes) | 0x20;
 }
 
 /// Whether a place where a frame rate may be named, "fp", "fra" or "tim", starts in the sixteen
 /// bytes. Reads two bytes beyond them.
 bool mayHoldName(const char* bytes) {
-    const Block first = lowerCaseBlock(bytes);
-    const Block second = lowerCaseBlock(bytes + 1);
-    const Block third = lowerCaseBlock(bytes + 2);
-    const auto found = ((first == 'f') & ((second == 'p') | ((second == 'r') & (third == 'a')))) |
-                       ((first == 't') & (second == 'i') & (third == 'm'));
-    std::array<std::uint64_t, 2> halves;
-    std::memcpy(halves.data(), &found, sizeof halves);
-    return (halves[0] | halves[1]) != 0;
+    const ByteBlock first = lowerCaseBlock(bytes);
+    const ByteBlock second = lowerCaseBlock(bytes + 1);
+    const ByteBlock third = lowerCaseBlock(bytes + 2);
+    return holdsAnywhere(((first == 'f') & ((second == 'p') | ((second == 'r') & (third == 'a')))) |
+                         ((first == 't') & (second == 'i') & (third == 'm')));
 }
 
 /// The first match of each form in which a file may name its rate. An unusable rate is a match,

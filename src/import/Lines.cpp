@@ -5,27 +5,15 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <cstring>
+
+#include "import/ByteBlock.h"
 
 namespace clipvane {
 namespace {
 
-constexpr std::uint64_t repeated(std::uint8_t byte) {
-    return 0x0101010101010101U * byte;
-}
-
-/// Whether any of eight bytes may belong to a newline: U+000A to U+000D, or not ASCII at all.
-bool mayHoldNewline(std::uint64_t bytes) {
-    const std::uint64_t ascii = bytes & repeated(0x7F);
-    const std::uint64_t atLeastLineFeed = ascii + repeated(0x80 - 0x0A);
-    const std::uint64_t aboveCarriageReturn = ascii + repeated(0x7F - 0x0D);
-    return (((atLeastLineFeed & ~aboveCarriageReturn) | bytes) & repeated(0x80)) != 0;
-}
-
-/// The length of the newline that `text` begins with, or zero.
-std::size_t newlineLength(std::string_view text) {
+/// The length of the newline other than a line feed that `text` begins with, or zero.
+std::size_t rareNewlineLength(std::string_view text) {
     switch (static_cast<std::uint8_t>(text.front())) {
-        case 0x0A:
         case 0x0B:
         case 0x0C:
         case 0x0D:
@@ -39,42 +27,49 @@ std::size_t newlineLength(std::string_view text) {
     }
 }
 
-struct Newline {
-    std::size_t position;
-    std::size_t length;
-};
+bool mayHoldRareNewline(const char* bytes) {
+    const ByteBlock block = loadBlock(bytes);
+    return holdsAnywhere((block - 0x0B < 3) | (block == 0xC2) | (block == 0xE2));
+}
 
-std::optional<Newline> findNewline(std::string_view text) {
-    constexpr std::size_t wordSize = sizeof(std::uint64_t);
+/// The place of the first newline in `text`, which holds no line feed, or the size of `text`.
+std::size_t findRareNewline(std::string_view text) {
     std::size_t position = 0;
     while (position < text.size()) {
-        std::uint64_t word = 0;
-        while (position + wordSize <= text.size()) {
-            std::memcpy(&word, text.data() + position, wordSize);
-            if (mayHoldNewline(word)) break;
-            position += wordSize;
+        const bool isWholeBlock = position + sizeof(ByteBlock) <= text.size();
+        const std::size_t end = isWholeBlock ? position + sizeof(ByteBlock) : text.size();
+        if (!isWholeBlock || mayHoldRareNewline(text.data() + position)) {
+            for (; position < end; ++position) {
+                if (rareNewlineLength(text.substr(position)) > 0) return position;
+            }
         }
-        const std::size_t end = std::min(position + wordSize, text.size());
-        for (; position < end; ++position) {
-            const std::size_t length = newlineLength(text.substr(position));
-            if (length > 0) return Newline{position, length};
-        }
+        position = end;
     }
-    return std::nullopt;
+    return position;
 }
 
 }  // namespace
 
+/// The C library looks for line feeds faster than anybody else. Other newlines are looked for only
+/// up to the next one, so that each is sought once, whatever the text consists of.
+void Lines::findLineFeed() {
+    lineFeed = std::min(text.find('\n', position), text.size());
+}
+
 std::optional<std::string_view> Lines::next() {
-    if (!rest) return std::nullopt;
-    const std::string_view text = *rest;
-    const auto newline = findNewline(text);
-    if (!newline) {
-        rest.reset();
-        return text;
+    if (isThrough) return std::nullopt;
+    const std::string_view line = text.substr(position, lineFeed - position);
+    const std::size_t size = findRareNewline(line);
+    position += size;
+    if (size < line.size()) {
+        position += rareNewlineLength(line.substr(size));
+    } else if (lineFeed < text.size()) {
+        ++position;
+        findLineFeed();
+    } else {
+        isThrough = true;
     }
-    rest = text.substr(newline->position + newline->length);
-    return text.substr(0, newline->position);
+    return line.substr(0, size);
 }
 
 }  // namespace clipvane

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string_view>
 
@@ -12,13 +13,18 @@ namespace clipvane {
 /// itself, so a carriage return and line feed have an empty line between them.
 class Lines {
   public:
-    explicit Lines(std::string_view text) : rest(text) {}
+    explicit Lines(std::string_view text) : text(text) { findLineFeed(); }
 
     /// The next line without its newline, or nothing after the last one.
     std::optional<std::string_view> next();
 
   private:
-    std::optional<std::string_view> rest;
+    void findLineFeed();
+
+    std::string_view text;
+    std::size_t position = 0;  ///< where the next line begins
+    std::size_t lineFeed = 0;  ///< the first one from there on, or the text's end
+    bool isThrough = false;
 };
 
 }  // namespace clipvane

@@ -27,6 +27,11 @@ testing::AssertionResult agree(Pattern& pattern, const std::string& line, std::s
     const icu::UnicodeString text = utf16(line);
     const bool expected = pattern.find(text);
     const auto columns = matchEventLine(line);
+    const auto general = matchAnyEventLine(line);
+    if (general.has_value() != columns.has_value() ||
+        (general && keptColumns(*general) != keptColumns(*columns))) {
+        return testing::AssertionFailure() << "straight and general way differ: " << line;
+    }
     if (expected != columns.has_value()) {
         return testing::AssertionFailure() << (expected ? "no match: " : "a match: ") << line;
     }
@@ -52,6 +57,53 @@ TEST(EventLineJudge, GeneratedLines_MatchAsThePatternDoes) {
     std::cout << matches << " of " << count << " lines are event lines\n";
     EXPECT_GT(matches, count / 4);
     EXPECT_LT(matches, count * 3 / 4);
+}
+
+/// Lines as most are, with a slip in many: the straight way and the general one must not differ in
+/// what both take, and most must go the straight way.
+TEST(EventLineJudge, PlainLinesAndTheirMutations_MatchAlikeOnBothWays) {
+    constexpr std::array lines{
+        "000042  A012C003  V    C        01:00:00:00 01:00:04:00 00:00:00:00 00:00:04:00",
+        "001 AX AA/V D 030 00:00:00:00 00:00:00:01 10:59:59:23 99:99:99:99",
+        "\t7\tB\tA2\tW001\t012\t01:00:00:00\t01:00:04:00\t00:00:00:00\t00:00:04:00 trailing",
+        "  12345678  REEL_OF_THIRTY_CHARACTERS_AND_1  V  C  01:00:00:00 01:00:04:00 00:00:00:00 "
+        "00:00:04:00",
+        "3 12 V 00:00:00:00 00:00:00:00 00:00:00:01 10:59:59:23 99:99:99:99"};
+    constexpr std::string_view slips =
+        "0123456789 \t::;\v\r\x1F\x7F\x80\xC2\xA0\xD9\xA1\xFF"
+        "A/!";
+    const std::size_t count = generatedCases(1'000'000);
+    Random random;
+    std::size_t plain = 0;
+    for (std::size_t i = 0; i < count; ++i) {
+        std::string line = random.pick(lines);
+        for (std::size_t left = random.below(4); left > 0 && !line.empty(); --left) {
+            const std::size_t place = random.below(line.size());
+            switch (random.below(4)) {
+                case 0:
+                    line.insert(place, 1, random.pick(slips));
+                    break;
+                case 1:
+                    line.erase(place, 1);
+                    break;
+                case 2:
+                    line.resize(place + 1);
+                    break;
+                default:
+                    line[place] = random.pick(slips);
+            }
+        }
+        const auto straight = matchPlainEventLine(line);
+        const auto general = matchAnyEventLine(line);
+        ASSERT_TRUE(!straight || general) << line;
+        if (!straight) continue;
+        ++plain;
+        ASSERT_EQ(keptColumns(*straight), keptColumns(*general)) << line;
+        ASSERT_EQ(keptColumns(*straight)[0].data(), keptColumns(*general)[0].data()) << line;
+    }
+    std::cout << plain << " of " << count << " lines went the straight way\n";
+    EXPECT_GT(plain, count / 4);
+    for (const char* line : lines) EXPECT_TRUE(matchPlainEventLine(line)) << line;
 }
 
 /// Every code point once as a digit, as a blank, as a colon and as a part of a column.
