@@ -39,7 +39,7 @@ void readIntoFreshBuffer(const std::filesystem::path& path, std::size_t size) {
 void measureImport(benchmark::State& state, const char* extension, const std::string& content,
                    std::size_t events) {
     const BenchmarkFile file(extension, content);
-    std::vector<TimelineEvent> kept;  // freeing them is not the import's time
+    EventList kept;  // freeing them is not the import's time
     measureAgainstFloor(
         state,
         [&] {
@@ -63,7 +63,7 @@ BENCHMARK(importEDL)
     ->Arg(100'000)
     ->Arg(1'000'000)
     ->UseManualTime()
-    ->Iterations(9)
+    ->Iterations(7)
     ->Unit(benchmark::kMillisecond);
 
 void importEDLBeyondASCII(benchmark::State& state) {
@@ -74,7 +74,7 @@ BENCHMARK(importEDLBeyondASCII)
     ->Arg(100'000)
     ->Arg(1'000'000)
     ->UseManualTime()
-    ->Iterations(9)
+    ->Iterations(7)
     ->Unit(benchmark::kMillisecond);
 
 void detectFrameRate(benchmark::State& state) {
@@ -87,7 +87,7 @@ void detectFrameRate(benchmark::State& state) {
 BENCHMARK(detectFrameRate)
     ->Arg(1'000'000)
     ->UseManualTime()
-    ->Iterations(9)
+    ->Iterations(7)
     ->Unit(benchmark::kMillisecond);
 
 void parseWithEmptyCallbacks(const std::string& document) {
@@ -101,7 +101,7 @@ void parseWithEmptyCallbacks(const std::string& document) {
 }
 
 void measureXML(benchmark::State& state, const std::string& document) {
-    std::vector<TimelineEvent> kept;
+    EventList kept;
     measureAgainstFloor(
         state, [&] { kept = TimelineParser::parseXML(document, 24); },
         [&] {
@@ -117,13 +117,13 @@ void importFCPXML(benchmark::State& state) {
 BENCHMARK(importFCPXML)
     ->Arg(100'000)
     ->UseManualTime()
-    ->Iterations(9)
+    ->Iterations(7)
     ->Unit(benchmark::kMillisecond);
 
 void importXMEML(benchmark::State& state) {
     measureXML(state, generatedXMEML(static_cast<std::size_t>(state.range(0))));
 }
-BENCHMARK(importXMEML)->Arg(100'000)->UseManualTime()->Iterations(9)->Unit(benchmark::kMillisecond);
+BENCHMARK(importXMEML)->Arg(100'000)->UseManualTime()->Iterations(7)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace clipvane

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
-// Prints the peak memory of importing a large EDL, as a ratio to the size of the file. A program of
-// its own: the peak is the whole process's.
+// Prints the time and the peak memory of importing EDLs of many sizes, for each event and as a
+// ratio to the size of the file. A program of its own: the peak is the whole process's.
 
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -10,14 +10,16 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <string_view>
 
 #include "BenchmarkFile.h"
 #include "GeneratedTimeline.h"
+#include "Ratio.h"
 #include "import/TimelineParser.h"
 
 namespace {
 
-constexpr std::size_t eventCount = 1'000'000;
+using namespace clipvane;
 
 /// Runs `action` in a process of its own and returns that process's peak memory in bytes.
 template <class Action>
@@ -33,24 +35,41 @@ double peakOf(Action action) {
     return static_cast<double>(usage.ru_maxrss) * 1024;
 }
 
+std::string withCarriageReturns(std::string_view text) {
+    std::string result;
+    result.reserve(text.size() + text.size() / 32);
+    for (const char c : text) {
+        if (c == '\n') result += '\r';
+        result += c;
+    }
+    return result;
+}
+
+void report(std::size_t events, const char* lineEnds, std::string text) {
+    const auto size = static_cast<double>(text.size());
+    const BenchmarkFile file(".edl", text);
+    text = {};
+    const auto import = [&] {
+        const auto result = TimelineParser::parse(file.path());
+        return result && result->events.size() == events;
+    };
+    // The program itself, and what the allocator keeps of the generated text, are not the import's.
+    const double before = peakOf([] { return true; });
+    const double peak = peakOf(import) - before;
+    std::vector<double> times;
+    for (int i = 0; i < 7; ++i) times.push_back(secondsOf([&] { peakOf(import); }));
+    const auto count = static_cast<double>(events);
+    std::printf("%9zu  %-5s %9.2f %9.0f %9.2f %9.0f\n", events, lineEnds, size / 1e6,
+                median(times) / count * 1e9, peak / size, peak / count);
+}
+
 }  // namespace
 
 int main() {
-    using namespace clipvane;
-    std::size_t size = 0;
-    const BenchmarkFile file(".edl", [&] {
-        const std::string text = generatedEDL(eventCount);
-        size = text.size();
-        return text;
-    }());
-    // The generated text is gone, but the allocator may keep pages that a child would count.
-    const double before = peakOf([] { return true; });
-    const double peak = peakOf([&] {
-        const auto result = TimelineParser::parse(file.path());
-        return result && result->events.size() == eventCount;
-    });
-    std::printf(
-        "import of %zu events, %.0f MB: peak memory %.0f MB (%.0f MB without), ratio %.2f\n",
-        eventCount, static_cast<double>(size) / 1e6, peak / 1e6, before / 1e6,
-        peak / static_cast<double>(size));
+    std::printf("%9s  %-5s %9s %9s %9s %9s\n", "events", "ends", "MB", "ns/event", "peak/size",
+                "bytes/event");
+    for (const std::size_t events : {1'000, 10'000, 100'000, 1'000'000, 5'000'000}) {
+        report(events, "LF", generatedEDL(events));
+    }
+    report(1'000'000, "CR LF", withCarriageReturns(generatedEDL(1'000'000)));
 }

@@ -7,8 +7,9 @@
 
 #include <algorithm>
 #include <chrono>
-#include <limits>
+#include <cstddef>
 #include <utility>
+#include <vector>
 
 namespace clipvane {
 
@@ -20,22 +21,27 @@ double secondsOf(Action&& action) {
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
-/// Runs `work` and its floor in turn and reports, beside the work's time, the best time of each
+inline double median(std::vector<double> values) {
+    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
+
+/// Runs `work` and its floor in turn and reports, beside the work's time, the median time of each
 /// ("work_ms", "floor_ms") and their "ratio". Machines differ and are noisy; the ratio to what the
 /// machine needs at the very least, taken in the same minute, is what can be compared.
 template <class Work, class Floor>
 void measureAgainstFloor(benchmark::State& state, Work&& work, Floor&& floor) {
-    double bestWork = std::numeric_limits<double>::infinity();
-    double bestFloor = std::numeric_limits<double>::infinity();
+    std::vector<double> works;
+    std::vector<double> floors;
     for (auto _ : state) {
-        bestFloor = std::min(bestFloor, secondsOf(floor));
-        const double seconds = secondsOf(work);
-        bestWork = std::min(bestWork, seconds);
-        state.SetIterationTime(seconds);
+        floors.push_back(secondsOf(floor));
+        works.push_back(secondsOf(work));
+        state.SetIterationTime(works.back());
     }
-    state.counters["work_ms"] = bestWork * 1e3;
-    state.counters["floor_ms"] = bestFloor * 1e3;
-    state.counters["ratio"] = bestWork / bestFloor;
+    state.counters["work_ms"] = median(works) * 1e3;
+    state.counters["floor_ms"] = median(floors) * 1e3;
+    state.counters["ratio"] = median(works) / median(floors);
 }
 
 }  // namespace clipvane

@@ -17,8 +17,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     TimelineDocument document;
     document.fps = TimelineParser::detectFPS(text).value_or(defaultFPS);
     document.events = TimelineParser::parseEDL(text);
-    for (const TimelineEvent& event : document.events) {
-        require(fitsEDL(event), "an event from an EDL fits an EDL");
+    for (const EventView& event : document.events) {
+        require(fitsEDL(event.record()), "an event from an EDL fits an EDL");
     }
     requireEDLReadsBack(document);
     requireCSVReadsBack(document);

@@ -5,6 +5,7 @@
 
 #include <vector>
 
+#include "model/EventList.h"
 #include "model/TimelineEvent.h"
 #include "support/SameFields.h"
 
@@ -12,10 +13,10 @@ namespace clipvane::fuzz {
 
 using test::sameFields;
 
-inline bool sameFields(const std::vector<TimelineEvent>& a, const std::vector<TimelineEvent>& b) {
+inline bool sameFields(const EventList& a, const std::vector<TimelineEvent>& b) {
     if (a.size() != b.size()) return false;
     for (std::size_t i = 0; i < a.size(); ++i) {
-        if (!sameFields(a[i], b[i])) return false;
+        if (!sameFields(a[i].record(), b[i])) return false;
     }
     return true;
 }

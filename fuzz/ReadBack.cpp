@@ -97,8 +97,8 @@ void requireCSVReadsBack(const TimelineDocument& document) {
     const auto text = unlessFatal([&] { return csvText(document); });
     const auto expected = unlessFatal([&] {
         std::vector<Row> rows;
-        for (const TimelineEvent& event : document.events) {
-            rows.push_back(expectedRow(document, event));
+        for (const EventView& event : document.events) {
+            rows.push_back(expectedRow(document, event.record()));
         }
         return rows;
     });
@@ -118,8 +118,8 @@ void requireEDLReadsBack(const TimelineDocument& document) {
     again.events = TimelineParser::parseEDL(text);
     require(again.events.size() == document.events.size(), "no event is lost and none is new");
     for (std::size_t i = 0; i < again.events.size(); ++i) {
-        const TimelineEvent& written = document.events[i];
-        TimelineEvent& read = again.events[i];
+        const TimelineEvent written = document.events[i].record();
+        const TimelineEvent read = again.events[i].record();
         std::array<char, 32> number{};
         std::snprintf(number.data(), number.size(), "%03zu", i + 1);
         require(read.eventNumber == number.data(), "events are numbered from one");
@@ -133,7 +133,7 @@ void requireEDLReadsBack(const TimelineDocument& document) {
         expected.highlighted = false;
         expected.comments.clear();
         require(sameFields(read, expected), "an exported event is read back");
-        read.comments = written.comments;
+        again.events.setComments(i, written.comments);
     }
     require(edlText(again) == text, "what was read back is exported as before");
 }
@@ -149,9 +149,10 @@ bool fitsEDL(const TimelineEvent& event) {
 }
 
 void requireJSONReadsBack(const TimelineDocument& document) {
-    for (const TimelineEvent& event : document.events) {
-        const auto again = decodeJSON(encodeJSON(event));
-        require(again && again->id == event.id && sameFields(*again, event),
+    for (const EventView& event : document.events) {
+        const TimelineEvent record = event.record();
+        const auto again = decodeJSON(encodeJSON(record));
+        require(again && again->id == record.id && sameFields(*again, record),
                 "the keyed form gives the event back");
     }
 }

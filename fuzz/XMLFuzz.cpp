@@ -26,7 +26,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(events.has_value() == expected.has_value(), "both stop, or neither");
     if (!events) return 0;
     require(sameFields(*events, *expected), "the events are those of the plain reader");
-    for (const TimelineEvent& event : *events) {
+    for (const EventView& event : *events) {
         require(validUTF8Prefix(event.clipName) == event.clipName.size(), "names are UTF-8");
     }
     return 0;

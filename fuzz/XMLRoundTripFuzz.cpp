@@ -24,7 +24,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     requireJSONReadsBack(document);
     const std::string text = edlText(document);
     require(validUTF8Prefix(text) == text.size(), "an EDL is UTF-8");
-    std::erase_if(document.events, [](const TimelineEvent& event) { return !fitsEDL(event); });
+    for (std::size_t row = document.events.size(); row-- > 0;) {
+        if (!fitsEDL(document.events[row].record())) document.events.erase(row);
+    }
     requireEDLReadsBack(document);
     return 0;
 }

@@ -16,8 +16,8 @@
 
 namespace {
 
-const char* shown(const std::string& field) {
-    return field.empty() ? "-" : field.c_str();
+std::string shown(std::string_view field) {
+    return field.empty() ? "-" : std::string(field);
 }
 
 }  // namespace
@@ -43,10 +43,12 @@ int main(int argc, char** argv) {
 
     std::printf("%zu events at %s fps (%s)\n", timeline->events.size(),
                 formatFPS(timeline->fps).c_str(), timeline->fpsSource.c_str());
-    for (const TimelineEvent& event : timeline->events) {
-        std::printf("%s  %s  %s  %s %s  %s %s  %s\n", shown(event.eventNumber), shown(event.reelID),
-                    shown(event.track), shown(event.sourceIn), shown(event.sourceOut),
-                    shown(event.recordIn), shown(event.recordOut), shown(event.clipName));
+    for (const EventView& event : timeline->events) {
+        const std::string line = shown(event.eventNumber) + "  " + shown(event.reelID) + "  " +
+                                 shown(event.track) + "  " + shown(event.sourceIn) + " " +
+                                 shown(event.sourceOut) + "  " + shown(event.recordIn) + " " +
+                                 shown(event.recordOut) + "  " + shown(event.clipName);
+        std::puts(line.c_str());
     }
     return 0;
 }

@@ -90,7 +90,7 @@ Result<void> takeLine(std::string_view line, std::optional<double> fps,
     if (document.events.empty() || lineSource == fpsSourceDefault) document.fpsSource = lineSource;
     auto event = decodeJSON(line);
     if (!event) return tl::unexpected(because("has an \"id\" that is no UUID"));
-    document.events.push_back(std::move(*event));
+    document.events.push_back(*event);
     return {};
 }
 
@@ -102,8 +102,8 @@ std::string eventLines(const TimelineDocument& document, std::string_view file) 
         ",\"fps\":" + json(document.fps).dump() + ",\"fpsSource\":" + jsonText(document.fpsSource);
     std::string lines;
     std::int64_t row = 0;
-    for (const TimelineEvent& event : document.events) {
-        lines += encodeJSON(event);
+    for (const EventView& event : document.events) {
+        lines += encodeJSON(event.record());
         lines.pop_back();  // the brace
         lines += origin;
         appendInteger(lines, ++row);

@@ -16,7 +16,7 @@ FrameCounts::Count between(FrameCounts::Count in, FrameCounts::Count out) {
 
 }  // namespace
 
-FrameCounts frameCounts(const TimelineEvent& event, double fps) {
+FrameCounts frameCounts(const EventView& event, double fps) {
     FrameCounts counts;
     counts.sourceIn = frames(event.sourceIn, fps);
     counts.sourceOut = frames(event.sourceOut, fps);

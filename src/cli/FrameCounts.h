@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "model/TimelineEvent.h"
+#include "model/EventView.h"
 
 namespace clipvane::cli {
 
@@ -25,6 +25,6 @@ struct FrameCounts {
 };
 
 /// The counts at `fps` frames a second. Fatal for what leaves 64 bits.
-FrameCounts frameCounts(const TimelineEvent& event, double fps);
+FrameCounts frameCounts(const EventView& event, double fps);
 
 }  // namespace clipvane::cli

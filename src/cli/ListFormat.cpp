@@ -49,9 +49,14 @@ class TableFormat : public ListFormat {
                      {"Record In", timecode},
                      {"Record Out", timecode},
                      {"Track", name}});
-        for (const TimelineEvent& event : document.events) {
-            table.addRow({event.eventNumber, event.clipName, event.reelID, event.sourceIn,
-                          event.sourceOut, event.recordIn, event.recordOut, event.track});
+        for (const EventView& event : document.events) {
+            std::vector<std::string> row;
+            for (const std::string_view field :
+                 {event.eventNumber, event.clipName, event.reelID, event.sourceIn, event.sourceOut,
+                  event.recordIn, event.recordOut, event.track}) {
+                row.emplace_back(field);
+            }
+            table.addRow(std::move(row));
         }
         return table.text(width);
     }

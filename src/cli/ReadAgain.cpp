@@ -87,7 +87,7 @@ ReadAgain readAgain(const TimelineDocument& document, std::string_view edl) {
     // Numbers are positions, so that the events which are read can be told from those which are
     // not.
     std::vector<bool> isKept(document.events.size());
-    const auto again = readEDL(edl);
+    const auto again = readEDL(std::string(edl));
     for (const auto& event : again) {
         const auto number = parseInteger(event.eventNumber);
         if (!number || *number < 1) continue;

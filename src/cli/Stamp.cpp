@@ -126,7 +126,7 @@ std::optional<bool> comesFirst(const Events& before, const Events& after) {
     if (after.size() != before.size() && after.size() != before.size() + 1) return std::nullopt;
     const std::size_t added = after.size() - before.size();
     for (std::size_t row = 0; row < before.size(); ++row) {
-        if (!isSame(before[row], after[row + added])) return std::nullopt;
+        if (!isSame(before[row].record(), after[row + added].record())) return std::nullopt;
     }
     return added == 1;
 }

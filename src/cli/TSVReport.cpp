@@ -51,7 +51,7 @@ std::string tsvRows(const TimelineDocument& document, std::string_view file) {
     appendField(rate, formatFPS(document.fps));
     appendField(rate, document.fpsSource);
     std::string text;
-    for (const TimelineEvent& event : document.events) {
+    for (const EventView& event : document.events) {
         appendField(text, file);
         appendField(text, event.eventNumber);
         appendField(text, event.clipName);

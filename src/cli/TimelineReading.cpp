@@ -32,7 +32,7 @@ void setRate(TimelineDocument& document, std::optional<double> fps, std::optiona
 ReadTimeline edlTimeline(std::string_view text, std::optional<double> fps) {
     ReadTimeline timeline{std::make_unique<TimelineDocument>(), detectFPS(text)};
     setRate(*timeline.document, fps, timeline.namedRate);
-    timeline.document->events = readEDL(text);
+    timeline.document->events = readEDL(std::string(text));
     return timeline;
 }
 

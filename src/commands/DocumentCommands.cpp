@@ -130,14 +130,13 @@ void DocumentCommands::storeComment() {
     if (!row || *row >= documentModel.events.size()) return;
     auto comments = editedComments();
     if (!comments) return;
-    TimelineEvent& event = documentModel.events[*row];
-    const LineEnd kind = lineEndFor(event);
-    event.comments = withLineEnds(std::move(*comments), kind);
+    const LineEnd kind = lineEndFor(documentModel.events[*row]);
+    documentModel.events.setComments(*row, withLineEnds(std::move(*comments), kind));
 }
 
-LineEnd DocumentCommands::lineEndFor(const TimelineEvent& event) {
-    if (typedIn != event.id) {
-        typedIn = event.id;
+LineEnd DocumentCommands::lineEndFor(const EventView& event) {
+    if (typedIn != event.id()) {
+        typedIn = event.id();
         lineEnd = lineEndOf(event.comments);
     }
     return lineEnd;
@@ -153,13 +152,13 @@ void DocumentCommands::removeSelectedEvent() {
         storeComment();
         const auto row = selectedRow();
         if (!row) return;
-        TimelineEvent& event = selectedEvent(*row);
+        TimelineEvent event = selectedEvent(*row);
         auto& events = documentModel.events;
         auto& removed = documentModel.removedEvents;
 
         const auto erase = [&] {
             removed.push_back(std::move(event));
-            events.erase(events.begin() + static_cast<std::ptrdiff_t>(*row));
+            events.erase(*row);
             alert = &noMemory.toShow;
         };
         // Room for one more, so that nothing fails while the row goes.
@@ -186,9 +185,9 @@ void DocumentCommands::copySelectedInfo() {
     }
 }
 
-TimelineEvent& DocumentCommands::selectedEvent(std::size_t row) {
+TimelineEvent DocumentCommands::selectedEvent(std::size_t row) const {
     if (row >= documentModel.events.size()) fatal("the selected row lies beyond the events");
-    return documentModel.events[row];
+    return documentModel.events[row].record();
 }
 
 void DocumentCommands::exportCSV() {

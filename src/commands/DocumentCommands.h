@@ -64,8 +64,8 @@ class DocumentCommands {
 
     void storeComment();
     void saveFile(const char* defaultName, const Writer& writer);
-    TimelineEvent& selectedEvent(std::size_t row);
-    LineEnd lineEndFor(const TimelineEvent& event);
+    TimelineEvent selectedEvent(std::size_t row) const;
+    LineEnd lineEndFor(const EventView& event);
 
     /// The kind of line end in the comment of the event `typedIn` before the first keystroke:
     /// removing its last line end and undoing that must not change it.

@@ -4,9 +4,8 @@
 #pragma once
 
 #include <cstddef>
-#include <vector>
 
-#include "model/TimelineEvent.h"
+#include "model/EventList.h"
 
 namespace clipvane {
 
@@ -14,6 +13,6 @@ namespace clipvane {
 /// tells how many of them were timecodes. The others stay as they are. Rates within 0.0001 of each
 /// other are the same: nothing is converted, and the count is zero. Nothing is converted, either,
 /// when memory runs out, which is thrown.
-std::size_t convertTimecodes(std::vector<TimelineEvent>& events, double from, double to);
+std::size_t convertTimecodes(EventList& events, double from, double to);
 
 }  // namespace clipvane

@@ -4,6 +4,7 @@
 #include "import/CommonTimelineXMLDelegate.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "base/Characters.h"
 #include "base/Number.h"
@@ -40,8 +41,7 @@ void CommonTimelineXMLDelegate::didStartElement(std::string_view name,
             break;
         case XMLElement::source:
         case XMLElement::record:
-            if (pendingClipIndex) {
-                TimelineEvent& event = events[*pendingClipIndex];
+            if (isPending) {
                 const bool isSource = element == XMLElement::source;
                 setRange(attributes, isSource ? event.sourceIn : event.recordIn,
                          isSource ? event.sourceOut : event.recordOut);
@@ -57,17 +57,22 @@ void CommonTimelineXMLDelegate::didStartElement(std::string_view name,
 
 void CommonTimelineXMLDelegate::foundCharacters(std::string_view characters) {
     // Without a pending event nobody will ask for the text.
-    if (pendingClipIndex) currentText += characters;
+    if (isPending) currentText += characters;
 }
 
 void CommonTimelineXMLDelegate::didEndElement(std::string_view name) {
-    if (!pendingClipIndex) return;
+    if (!isPending) return;
     const XMLElement element = classifyXMLElement(name);
     if (endsEvent(element)) {
-        pendingClipIndex.reset();
+        completeEvent();
     } else if (element != XMLElement::other) {
-        setField(element, events[*pendingClipIndex]);
+        setField(element);
     }
+}
+
+EventList CommonTimelineXMLDelegate::finish() {
+    completeEvent();
+    return std::exchange(events, {});
 }
 
 void CommonTimelineXMLDelegate::startAsset(const XMLAttributes& attributes) {
@@ -77,7 +82,7 @@ void CommonTimelineXMLDelegate::startAsset(const XMLAttributes& attributes) {
 }
 
 void CommonTimelineXMLDelegate::startEvent(std::string_view name, const XMLAttributes& attributes) {
-    TimelineEvent& event = appendEvent(name);
+    beginEvent(name);
     if (const auto number = attributes.find("number")) event.eventNumber = cleanedXMLText(*number);
     event.highlighted = isTrue(attributes.find("highlighted").value_or(""));
 }
@@ -101,7 +106,7 @@ void CommonTimelineXMLDelegate::startClip(std::string_view name, const XMLAttrib
     const auto out = attributes.find("out");
     const auto recordEnd = attributes.find("end");
 
-    TimelineEvent& event = appendEvent(name);
+    beginEvent(name);
     event.clipName = cleanedXMLText(displayName());
     event.sourceIn = timing(start);
     event.recordIn = timing(offset);
@@ -117,7 +122,7 @@ void CommonTimelineXMLDelegate::setRange(const XMLAttributes& attributes, std::s
     if (const auto value = attributes.find("out")) out = timing(*value);
 }
 
-void CommonTimelineXMLDelegate::setField(XMLElement element, TimelineEvent& event) {
+void CommonTimelineXMLDelegate::setField(XMLElement element) {
     effort += currentText.size();
     const CleanedXMLText cleaned(currentText);
     const std::string_view text = cleaned.view();
@@ -163,15 +168,30 @@ void CommonTimelineXMLDelegate::setField(XMLElement element, TimelineEvent& even
     }
 }
 
-/// A new event numbered by its position, now the pending one.
-TimelineEvent& CommonTimelineXMLDelegate::appendEvent(std::string_view name) {
-    pendingClipIndex = events.size();
-    TimelineEvent& event = events.emplace_back();
-    event.id = identifiers.next();
-    appendInteger(event.eventNumber, static_cast<std::int64_t>(events.size()));
-    event.format = "XML";
+/// A new event, numbered by its position. The one before it ends, whether it was closed or not.
+void CommonTimelineXMLDelegate::beginEvent(std::string_view name) {
+    completeEvent();
+    isPending = true;
+    event = {};
+    appendInteger(event.eventNumber, static_cast<std::int64_t>(events.size() + 1));
     event.rawText = name;
-    return event;
+}
+
+void CommonTimelineXMLDelegate::completeEvent() {
+    if (!isPending) return;
+    isPending = false;
+    events.append({.eventNumber = event.eventNumber,
+                   .clipName = event.clipName,
+                   .reelID = event.reelID,
+                   .sourceIn = event.sourceIn,
+                   .sourceOut = event.sourceOut,
+                   .recordIn = event.recordIn,
+                   .recordOut = event.recordOut,
+                   .format = "XML",
+                   .track = event.track,
+                   .comments = event.comments,
+                   .highlighted = event.highlighted,
+                   .lines = events.keepCopy(event.rawText)});
 }
 
 /// The timecode `duration` after `start`, or empty text when either has no frame count.

@@ -10,18 +10,17 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
-#include "base/UUID.h"
 #include "import/XMLAttributes.h"
 #include "import/XMLElement.h"
+#include "model/EventList.h"
 #include "model/TimelineEvent.h"
 
 namespace clipvane {
 
 /// Turns one XML timeline into events. An event-driven parser calls it back with each element's
 /// start, with character data, and with each element's end, all in UTF-8; whatever it understood
-/// is in `events`. One object serves one document.
+/// is in the list that `finish` gives. One object serves one document.
 class CommonTimelineXMLDelegate {
   public:
     /// `fps`: frames per second at which frame numbers and seconds become timecodes.
@@ -30,6 +29,9 @@ class CommonTimelineXMLDelegate {
     void didStartElement(std::string_view name, const XMLAttributes& attributes);
     void foundCharacters(std::string_view characters);
     void didEndElement(std::string_view name);
+
+    /// There is nothing more to come: the events, in the order in which they began.
+    EventList finish();
 
     // Timing values: frame numbers ("250"), seconds ("10s", "1001/30000s") and timecodes. They are
     // not the timecode arithmetic's: no drop-frame separator is ever written, and a timecode needs
@@ -45,8 +47,6 @@ class CommonTimelineXMLDelegate {
     /// HH:MM:SS:FF; every field of a negative count carries its own minus sign.
     std::string timecode(std::int64_t fromFrames) const;
 
-    std::vector<TimelineEvent> events;
-
     /// What all this has cost so far, in bytes of text handled again beyond those that the parser
     /// handed over. A hostile document can make it grow with the square of its size.
     std::size_t effort = 0;
@@ -56,8 +56,9 @@ class CommonTimelineXMLDelegate {
     void startEvent(std::string_view name, const XMLAttributes& attributes);
     void startClip(std::string_view name, const XMLAttributes& attributes);
     void setRange(const XMLAttributes& attributes, std::string& in, std::string& out) const;
-    void setField(XMLElement element, TimelineEvent& event);
-    TimelineEvent& appendEvent(std::string_view name);
+    void setField(XMLElement element);
+    void beginEvent(std::string_view name);
+    void completeEvent();
     std::string end(std::string_view start, std::string_view duration) const;
 
     double fps;
@@ -65,9 +66,10 @@ class CommonTimelineXMLDelegate {
     /// guessed.
     std::map<std::string, std::string, std::less<>> assetNames;
     std::string
-        currentText;  ///< character data since the last element start, if an event is pending
-    std::optional<std::size_t> pendingClipIndex;  ///< the event that elements write into
-    UUIDGenerator identifiers;
+        currentText;      ///< character data since the last element start, if an event is pending
+    TimelineEvent event;  ///< while it is pending: what elements write into
+    bool isPending = false;  ///< it has begun, and has not ended
+    EventList events;        ///< those that have ended
 };
 
 }  // namespace clipvane

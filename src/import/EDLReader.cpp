@@ -3,125 +3,123 @@
 
 #include "import/EDLReader.h"
 
+#include <string_view>
 #include <utility>
 
 #include "base/Characters.h"
-#include "base/UUID.h"
 #include "import/ClipNameComment.h"
 #include "import/EventLine.h"
-#include "import/EventReservation.h"
 #include "import/Lines.h"
 #include "import/Scan.h"
 
 namespace clipvane {
 namespace {
 
-/// So many events show how densely a file is written.
-constexpr std::size_t sampleCount = 1024;
-
 bool isComment(std::string_view line) {
     takeWhile(line, [](char32_t c) { return isBlank(c); });
     return line.starts_with('*');
 }
 
-std::string joinLines(const std::vector<std::string_view>& lines) {
-    std::size_t size = lines.size() - 1;
-    for (const std::string_view line : lines) size += line.size();
-    std::string joined;
-    joined.reserve(size);
-    for (const std::string_view line : lines) {
-        if (line.data() != lines.front().data()) joined += '\n';
-        joined += line;
+/// The source text of an event: of the lines from its own to its last comment those that belong to
+/// it, with a line feed between them.
+std::string joinLines(std::string_view text) {
+    Lines lines(text);
+    std::string joined(*lines.next());
+    while (const auto line = lines.next()) {
+        if (!clipNameComment(*line) && !isComment(*line)) continue;
+        joined += '\n';
+        joined += *line;
     }
     return joined;
 }
 
-/// Collects the events of an EDL from its lines. Views into the text are kept until `finish`.
+/// Collects the events of an EDL from its lines, which lie in a text that the list keeps.
 class Reader {
   public:
-    explicit Reader(std::string_view text) : text(text) {}
+    explicit Reader(EventList& events) : events(events) {}
 
     /// Takes an event line, or a comment that belongs to the event before it; skips any other.
     void readLine(std::string_view line);
 
-    /// The events, in the order of their lines.
-    std::vector<TimelineEvent> finish();
+    /// There are no more lines.
+    void finish();
 
   private:
-    /// The event whose comments are being read.
-    struct CurrentEvent {
-        EventLine columns;
-        std::string_view clipName;            ///< from a clip-name comment, else empty
-        std::vector<std::string_view> lines;  ///< the event line and its comments
-    };
+    void takeComment(std::string_view line);
 
-    void completeCurrentEvent();
+    EventList& events;
 
-    std::string_view text;
-    std::vector<TimelineEvent> events;
-    CurrentEvent current;  ///< without lines before the first event
-    UUIDGenerator identifiers;
+    // The event whose comments are being read.
+    EventLine columns;
+    std::string_view clipName;  ///< from a clip-name comment, else empty
+    std::string_view lines;     ///< from its line to its last comment; empty before the first event
+    bool isJoined = false;      ///< others stand between them, or they do not end with line feeds
+    std::string madeName;
 };
 
 void Reader::readLine(std::string_view line) {
     if (line.empty()) return;
-    if (const auto columns = matchEventLine(line)) {
-        completeCurrentEvent();
-        current.columns = *columns;
-        current.lines.push_back(line);
+    if (const auto found = matchEventLine(line)) {
+        finish();
+        columns = *found;
+        clipName = {};
+        lines = line;
+        isJoined = false;
         return;
     }
-    if (current.lines.empty()) return;
+    if (lines.empty()) return;
     if (const auto name = clipNameComment(line)) {
-        if (!name->empty()) current.clipName = *name;
-        current.lines.push_back(line);
+        if (!name->empty()) clipName = *name;
+        takeComment(line);
     } else if (isComment(line)) {
-        current.lines.push_back(line);
+        takeComment(line);
     }
 }
 
-std::vector<TimelineEvent> Reader::finish() {
-    completeCurrentEvent();
-    return std::exchange(events, {});
+void Reader::takeComment(std::string_view line) {
+    const char* const end = lines.data() + lines.size();
+    isJoined |= *end != '\n' || line.data() != end + 1;
+    lines = {lines.data(), static_cast<std::size_t>(line.data() + line.size() - lines.data())};
 }
 
-void Reader::completeCurrentEvent() {
-    if (current.lines.empty()) return;
-    const EventLine& columns = current.columns;
-    TimelineEvent& event = events.emplace_back();
-    event.id = identifiers.next();
-    event.eventNumber = columns.number;
-    if (current.clipName.empty()) {
-        event.clipName = "Clip ";
-        event.clipName += columns.number;
-    } else {
-        event.clipName = current.clipName;
+void Reader::finish() {
+    if (lines.empty()) return;
+    if (clipName.empty()) {
+        madeName = "Clip ";
+        madeName += columns.number;
+        clipName = madeName;
     }
-    event.reelID = columns.reel;
-    event.sourceIn = columns.sourceIn;
-    event.sourceOut = columns.sourceOut;
-    event.recordIn = columns.recordIn;
-    event.recordOut = columns.recordOut;
-    event.format = "EDL";
-    event.track = columns.track;
-    event.rawText = joinLines(current.lines);
+    events.append({.eventNumber = columns.number,
+                   .clipName = clipName,
+                   .reelID = columns.reel,
+                   .sourceIn = columns.sourceIn,
+                   .sourceOut = columns.sourceOut,
+                   .recordIn = columns.recordIn,
+                   .recordOut = columns.recordOut,
+                   .format = "EDL",
+                   .track = columns.track,
+                   .lines = lines,
+                   .isJoined = isJoined});
+}
 
-    if (events.size() == sampleCount) {
-        const std::string_view last = current.lines.back();
-        const auto soFar = static_cast<std::size_t>(last.data() + last.size() - text.data());
-        reserveForRest(events, soFar, text.size());
-    }
-    current.clipName = {};
-    current.lines.clear();
+template <class Text>
+EventList read(Text text) {
+    EventList events(joinLines);
+    Lines lines(events.keep(std::move(text)));
+    Reader reader(events);
+    while (const auto line = lines.next()) reader.readLine(*line);
+    reader.finish();
+    return events;
 }
 
 }  // namespace
 
-std::vector<TimelineEvent> readEDL(std::string_view text) {
-    Reader reader(text);
-    Lines lines(text);
-    while (const auto line = lines.next()) reader.readLine(*line);
-    return reader.finish();
+EventList readEDL(FileBytes text) {
+    return read(std::move(text));
+}
+
+EventList readEDL(std::string text) {
+    return read(std::move(text));
 }
 
 }  // namespace clipvane

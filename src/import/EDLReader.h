@@ -3,14 +3,16 @@
 
 #pragma once
 
-#include <string_view>
-#include <vector>
+#include <string>
 
-#include "model/TimelineEvent.h"
+#include "base/File.h"
+#include "model/EventList.h"
 
 namespace clipvane {
 
-/// The events of a CMX-style EDL, in the order of their lines. `text` is UTF-8.
-std::vector<TimelineEvent> readEDL(std::string_view text);
+// The events of a CMX-style EDL, in the order of their lines. The list keeps the text, which is
+// UTF-8, and the events stand in it.
+EventList readEDL(FileBytes text);
+EventList readEDL(std::string text);
 
 }  // namespace clipvane

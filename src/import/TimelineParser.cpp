@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <new>
 #include <stdexcept>
+#include <utility>
 
 #include "base/Characters.h"
 #include "base/File.h"
@@ -48,9 +49,15 @@ TimelineParseResult resultAtRate(const std::optional<double>& detectedFPS) {
     return {{}, defaultFPS, std::string(fpsSourceDefault)};
 }
 
-TimelineParseResult parseEDLText(std::string_view text) {
+TimelineParseResult parseEDLText(FileBytes text) {
+    TimelineParseResult result = resultAtRate(detectFPS(text.view()));
+    result.events = readEDL(std::move(text));
+    return result;
+}
+
+TimelineParseResult parseEDLText(std::string text) {
     TimelineParseResult result = resultAtRate(detectFPS(text));
-    result.events = readEDL(text);
+    result.events = readEDL(std::move(text));
     return result;
 }
 
@@ -70,11 +77,11 @@ Result<TimelineParseResult> TimelineParser::parse(const std::filesystem::path& u
 
     if (contains(edlExtensions, extension)) {
         if (validUTF8Prefix(file->view()) == file->view().size()) {
-            return parseEDLText(file->view());
+            return parseEDLText(std::move(*file));
         }
-        const std::string text = replaceInvalidUTF8(file->view());
+        std::string text = replaceInvalidUTF8(file->view());
         *file = {};
-        return parseEDLText(text);
+        return parseEDLText(std::move(text));
     }
     if (contains(xmlExtensions, extension)) return parseXMLData(file->view());
     return tl::unexpected(unsupportedType());
@@ -88,11 +95,11 @@ std::optional<double> TimelineParser::detectFPS(std::string_view in) {
     return clipvane::detectFPS(in);
 }
 
-std::vector<TimelineEvent> TimelineParser::parseEDL(std::string_view text) {
-    return readEDL(text);
+EventList TimelineParser::parseEDL(std::string_view text) {
+    return readEDL(std::string(text));
 }
 
-std::vector<TimelineEvent> TimelineParser::parseXML(std::string_view data, double fps) {
+EventList TimelineParser::parseXML(std::string_view data, double fps) {
     return readXML(data, fps);
 }
 

@@ -6,7 +6,6 @@
 #include <filesystem>
 #include <optional>
 #include <string_view>
-#include <vector>
 
 #include "base/Error.h"
 #include "model/TimelineParseResult.h"
@@ -31,8 +30,9 @@ class TimelineParser {
     // raw bytes, rates are frames per second; `import/FrameRateDetection.h`, `import/EDLReader.h`
     // and `import/XMLReader.h` have the contracts.
     static std::optional<double> detectFPS(std::string_view in);
-    static std::vector<TimelineEvent> parseEDL(std::string_view text);
-    static std::vector<TimelineEvent> parseXML(std::string_view data, double fps);
+    // The list of an EDL keeps a copy of its text.
+    static EventList parseEDL(std::string_view text);
+    static EventList parseXML(std::string_view data, double fps);
 };
 
 }  // namespace clipvane

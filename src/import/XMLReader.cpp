@@ -15,7 +15,6 @@
 
 #include "import/CommonTimelineXMLDelegate.h"
 #include "import/EntityChains.h"
-#include "import/EventReservation.h"
 #include "import/XMLEncoding.h"
 
 namespace clipvane {
@@ -68,8 +67,7 @@ class ParserRun {
 
     /// Parses to the document's end or to its first error.
     void parse(std::string_view data) {
-        const std::size_t total = data.size();
-        effortAllowed = mostEffort(total);
+        effortAllowed = mostEffort(data.size());
         XML_Status status = XML_STATUS_OK;
         bool isFinal = false;
         std::size_t pieceSize = smallestPiece;
@@ -77,11 +75,9 @@ class ParserRun {
             const std::string_view piece = data.substr(0, pieceSize);
             data.remove_prefix(piece.size());
             isFinal = data.empty();
-            const bool isFirst = piece.size() + data.size() == total;
             hasProgressed = false;
             status = XML_Parse(parser.get(), piece.data(), static_cast<int>(piece.size()), isFinal);
             pieceSize = hasProgressed ? smallestPiece : std::min(pieceSize * 2, largestPiece);
-            if (isFirst && !isFinal) reserveForRest(delegate.events, piece.size(), total);
         }
         if (failure) std::rethrow_exception(failure);
         if (XML_GetErrorCode(parser.get()) == XML_ERROR_NO_MEMORY) throw std::bad_alloc();
@@ -179,11 +175,11 @@ class ParserRun {
 
 }  // namespace
 
-std::vector<TimelineEvent> readXML(std::string_view data, double fps, XMLWatcher* watcher) {
+EventList readXML(std::string_view data, double fps, XMLWatcher* watcher) {
     CommonTimelineXMLDelegate delegate(fps);
     const XMLBytes bytes = readableXML(data);
     ParserRun(delegate, bytes.encoding, watcher).parse(bytes.of(data));
-    return std::move(delegate.events);
+    return delegate.finish();
 }
 
 }  // namespace clipvane

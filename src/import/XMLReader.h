@@ -5,9 +5,8 @@
 
 #include <cstddef>
 #include <string_view>
-#include <vector>
 
-#include "model/TimelineEvent.h"
+#include "model/EventList.h"
 
 namespace clipvane {
 
@@ -30,7 +29,6 @@ class XMLWatcher {
 /// The events of an XMEML, FCPXML or generic XML document, in document order, with times at `fps`
 /// frames per second. `data` is the file's raw bytes, in any encoding that the document declares.
 /// Malformed XML yields the events before the error. A watcher costs a little time.
-std::vector<TimelineEvent> readXML(std::string_view data, double fps,
-                                   XMLWatcher* watcher = nullptr);
+EventList readXML(std::string_view data, double fps, XMLWatcher* watcher = nullptr);
 
 }  // namespace clipvane

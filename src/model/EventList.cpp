@@ -93,13 +93,10 @@ std::uint32_t EventList::addRow(const TimelineEvent& event) {
                                         .recordOut = event.recordOut,
                                         .format = event.format,
                                         .track = event.track,
+                                        .comments = event.comments,
+                                        .highlighted = event.highlighted,
                                         .lines = texts.copy(event.rawText)});
     identifiers.set(index, event.id);
-    rows[index].isHighlighted = event.highlighted;
-    if (!event.comments.empty()) {
-        comments.insert_or_assign(index, event.comments);
-        rows[index].hasComments = true;
-    }
     return index;
 }
 
@@ -113,6 +110,11 @@ std::uint32_t EventList::addRow(const FoundEvent& event) {
     placeTexts(row, index, event);
     row.timecodes = {keepTimecode(event.sourceIn), keepTimecode(event.sourceOut),
                      keepTimecode(event.recordIn), keepTimecode(event.recordOut)};
+    if (!event.comments.empty()) {
+        comments.insert_or_assign(index, event.comments);
+        row.hasComments = true;
+    }
+    row.isHighlighted = event.highlighted;
     row.isJoined = event.isJoined;
     return index;
 }

@@ -34,8 +34,10 @@ struct FoundEvent {
     std::string_view recordOut;
     std::string_view format;
     std::string_view track;
-    std::string_view lines;
-    bool isJoined = false;  ///< `lines` holds more than the event's own lines
+    std::string_view comments{};
+    bool highlighted = false;
+    std::string_view lines;  ///< the source text, or lines that it is joined of
+    bool isJoined = false;
 };
 
 /// The events of a timeline, in order, as rows over the file's own text, which the list keeps. A

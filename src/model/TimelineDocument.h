@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "model/EventList.h"
 #include "model/FrameRateSource.h"
 #include "model/TimelineEvent.h"
 
@@ -21,7 +22,7 @@ struct TimelineDocument {
     TimelineDocument& operator=(const TimelineDocument&) = delete;
 
     std::optional<std::filesystem::path> sourceURL;  ///< the file last opened
-    std::vector<TimelineEvent> events;               ///< those that remain for export
+    EventList events;                                ///< those that remain for export
     std::vector<TimelineEvent> removedEvents;        ///< in the order of their removal
     double fps = defaultFPS;                         ///< frames per second of `events`
     std::string fpsSource{fpsSourceDefault};         ///< where `fps` came from

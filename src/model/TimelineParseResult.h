@@ -4,17 +4,16 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
-#include "model/TimelineEvent.h"
+#include "model/EventList.h"
 
 namespace clipvane {
 
 /// What one import of a file yields.
 struct TimelineParseResult {
-    std::vector<TimelineEvent> events;  ///< in the file's order
-    double fps = 0;                     ///< frames per second: detected, or the default of 24
-    std::string fpsSource;              ///< "File" or "Default"
+    EventList events;       ///< in the file's order
+    double fps = 0;         ///< frames per second: detected, or the default of 24
+    std::string fpsSource;  ///< "File" or "Default"
 };
 
 }  // namespace clipvane

@@ -62,7 +62,7 @@ void CommentsView::setEditable(bool editable) {
     update();  // the edge
 }
 
-void CommentsView::showComments(const UUID& id, const std::string& comments) {
+void CommentsView::showComments(const UUID& id, std::string_view comments) {
     setEditable(true);
     if (shownEvent == id) return;
     shownEvent = id;

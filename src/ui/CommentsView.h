@@ -6,6 +6,7 @@
 #include <QPlainTextEdit>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "base/UUID.h"
 
@@ -18,7 +19,7 @@ class CommentsView : public QPlainTextEdit {
 
     /// Shows the comment of the event `id` for editing. Shown already, it stays as it is, with all
     /// that can be undone; another event's starts afresh.
-    void showComments(const UUID& id, const std::string& comments);
+    void showComments(const UUID& id, std::string_view comments);
     /// Shows nothing, not to be edited, and says how to come to edit something.
     void showNothing();
 

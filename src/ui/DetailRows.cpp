@@ -9,8 +9,10 @@
 namespace clipvane {
 namespace {
 
-const TimelineEvent* eventAt(const TimelineDocument& document, std::optional<std::size_t> row) {
-    return row && *row < document.events.size() ? &document.events[*row] : nullptr;
+std::optional<TimelineEvent> eventAt(const TimelineDocument& document,
+                                     std::optional<std::size_t> row) {
+    if (!row || *row >= document.events.size()) return std::nullopt;
+    return document.events[*row].record();
 }
 
 }  // namespace
@@ -18,10 +20,10 @@ const TimelineEvent* eventAt(const TimelineDocument& document, std::optional<std
 std::vector<DetailRow> detailRows(const TimelineDocument& document,
                                   std::optional<std::size_t> row) {
     using Field = std::string TimelineEvent::*;
-    const TimelineEvent* event = eventAt(document, row);
-    const auto value = [&](Field field) { return event ? event->*field : "-"; };
+    const auto event = eventAt(document, row);
+    const auto value = [&](Field field) { return event ? (*event).*field : "-"; };
     const auto duration = [&](Field from, Field to) {
-        return event ? durationDisplay(event->*from, event->*to, document.fps) : "-";
+        return event ? durationDisplay((*event).*from, (*event).*to, document.fps) : "-";
     };
     return {{"Clip Name", value(&TimelineEvent::clipName)},
             {"Reel ID", value(&TimelineEvent::reelID)},
@@ -37,8 +39,8 @@ std::vector<DetailRow> detailRows(const TimelineDocument& document,
 }
 
 std::string detailTitle(const TimelineDocument& document, std::optional<std::size_t> row) {
-    const TimelineEvent* event = eventAt(document, row);
-    if (event == nullptr) return "No event selected";
+    const auto event = eventAt(document, row);
+    if (!event) return "No event selected";
     return "Event " + event->eventNumber + ": " + event->clipName;
 }
 

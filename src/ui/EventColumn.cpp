@@ -8,7 +8,7 @@
 namespace clipvane {
 
 std::span<const EventColumn> eventColumns() {
-    using Event = TimelineEvent;
+    using Event = EventView;
     static const EventColumn columns[] = {
         {"eventNumber", "#", 64, &Event::eventNumber, colours::numberField},
         {"clipName", "Clip Name", 280, &Event::clipName, colours::clipNameField},

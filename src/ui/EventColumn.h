@@ -5,9 +5,9 @@
 
 #include <QColor>
 #include <span>
-#include <string>
+#include <string_view>
 
-#include "model/TimelineEvent.h"
+#include "model/EventView.h"
 
 namespace clipvane {
 
@@ -16,7 +16,7 @@ struct EventColumn {
     const char* identifier;  ///< the field's name
     const char* title;
     int width;  ///< in logical pixels, at first and at least
-    std::string TimelineEvent::*field;
+    std::string_view EventView::*field;
     QColor colour;
 };
 

@@ -24,7 +24,7 @@ void EventTableModel::textsChanged() {
     if (rowCount() > 0) emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
 }
 
-const TimelineEvent& EventTableModel::eventAt(int row) const {
+EventView EventTableModel::eventAt(int row) const {
     if (row < 0 || row >= rowCount()) fatal("a row outside the event list");
     return document.events[static_cast<std::size_t>(row)];
 }
@@ -44,7 +44,8 @@ QVariant EventTableModel::data(const QModelIndex& index, int role) const {
         case Qt::DisplayRole:
             return toQt(eventAt(index.row()).*column.field);
         case Qt::AccessibleTextRole: {
-            const auto& text = eventAt(index.row()).*column.field;
+            const EventView event = eventAt(index.row());
+            const std::string_view text = event.*column.field;
             return text.empty() ? QStringLiteral("-") : toQt(text);
         }
         case Qt::ForegroundRole:

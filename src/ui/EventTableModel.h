@@ -35,7 +35,7 @@ class EventTableModel : public QAbstractTableModel {
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
   private:
-    const TimelineEvent& eventAt(int row) const;
+    EventView eventAt(int row) const;
 
     const TimelineDocument& document;
 };

@@ -75,8 +75,8 @@ void InspectorWindowController::refreshDetails() {
     detailStack->setTitle(toQt(detailTitle(documentModel, row)));
     detailStack->insertDetailRows(detailRows(documentModel, row));
     if (row && *row < documentModel.events.size()) {
-        const TimelineEvent& event = documentModel.events[*row];
-        commentsView->showComments(event.id, event.comments);
+        const EventView event = documentModel.events[*row];
+        commentsView->showComments(event.id(), event.comments);
     } else {
         commentsView->showNothing();
     }

@@ -8,6 +8,7 @@
 #include <limits>
 
 #include "commands/SampleEvents.h"
+#include "support/Records.h"
 #include "support/RowName.h"
 #include "support/TemporaryFolder.h"
 
@@ -42,7 +43,7 @@ TEST(CSVReport, AnEvent_FifteenQuotedFields) {
 TEST(CSVReport, TwoEventsTheSecondHighlighted_ThreeLinesNoThenYes) {
     TimelineDocument document;
     fillWithSamples(document, 2);
-    document.events[1].highlighted = true;
+    edit(document.events, 1, [](auto& event) { event.highlighted = true; });
     const std::string tail =
         R"~("00:00:00:00","00:00:04:00","00:00:04:00 (100 frames)","V","EDL",)~";
     const std::string middle =
@@ -182,7 +183,7 @@ TEST(WriteCSV, ManyChunks_FileHoldsTheWholeText) {
     const TemporaryFolder folder;
     TimelineDocument document;
     fillWithSamples(document, 5000);
-    document.events[1234].comments.assign(1 << 20, 'c');
+    document.events.setComments(1234, std::string(1 << 20, 'c'));
     const auto written = writeCSV(document, folder / "report.csv");
     ASSERT_TRUE(written) << written.error().description;
     const std::string text = csvText(document);

@@ -9,6 +9,7 @@
 #include <limits>
 
 #include "commands/SampleEvents.h"
+#include "support/Records.h"
 #include "support/RowName.h"
 #include "support/TemporaryFolder.h"
 
@@ -45,7 +46,7 @@ TEST(EditedEDL, AnEvent_ItsLineItsClipNameAndAnEmptyLine) {
 TEST(EditedEDL, TwoEvents_AnEmptyLineBetweenAndOneLineFeedAtTheEnd) {
     TimelineDocument document;
     fillWithSamples(document, 2);
-    document.events[0].comments = "wide";
+    edit(document.events, 0, [](auto& event) { event.comments = "wide"; });
     EXPECT_EQ(edlText(document),
               "TITLE: Clipvane Export\n"
               "FCM: NON-DROP FRAME\n"
@@ -117,8 +118,8 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(EditedEDL, SecondOfThreeRemoved_TheRestIsRenumbered) {
     TimelineDocument document;
     fillWithSamples(document, 3);
-    document.removedEvents.push_back(document.events[1]);
-    document.events.erase(document.events.begin() + 1);
+    document.removedEvents.push_back(document.events[1].record());
+    document.events.erase(1);
     const std::string text = edlText(document);
     EXPECT_NE(text.find("\n001  "), std::string::npos);
     EXPECT_NE(text.find("\n002  "), std::string::npos);

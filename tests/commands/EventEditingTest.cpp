@@ -6,6 +6,7 @@
 
 #include "commands/RecordingCommands.h"
 #include "commands/SampleEvents.h"
+#include "support/Records.h"
 
 namespace clipvane::test {
 namespace {
@@ -18,20 +19,22 @@ class EventEditing : public testing::Test {
   protected:
     EventEditing() { fillWithSamples(commands.documentModel, 10); }
 
-    std::string comments(std::size_t row) { return commands.document().events[row].comments; }
+    std::string comments(std::size_t row) {
+        return std::string(commands.document().events[row].comments);
+    }
 
     RecordingCommands commands;
 };
 
 TEST_F(EventEditing, RemoveRow3Of10_TheNextEventIsSelected) {
     commands.selection = 3;
-    const TimelineEvent removed = commands.document().events[3];
-    const TimelineEvent next = commands.document().events[4];
+    const TimelineEvent removed = commands.document().events[3].record();
+    const TimelineEvent next = commands.document().events[4].record();
     commands.removeSelectedEvent();
     EXPECT_THAT(commands.calls, ElementsAre("row 3 of 10 goes: 9, row 3 selected",
                                             "status: Removed event. 9 events remain for export."));
     ASSERT_THAT(commands.document().events, SizeIs(9));
-    EXPECT_EQ(commands.document().events[3], next);
+    EXPECT_EQ(commands.document().events[3].record(), next);
     EXPECT_THAT(commands.document().removedEvents, ElementsAre(removed));
 }
 
@@ -113,7 +116,7 @@ TEST_F(EventEditing, TypedComment_IsStoredByteForByte) {
 }
 
 TEST_F(EventEditing, EmptiedComment_StoresTheEmptyText) {
-    commands.documentModel.events[4].comments = "old";
+    edit(commands.documentModel.events, 4, [](auto& event) { event.comments = "old"; });
     commands.selection = 4;
     commands.typedText = "";
     commands.textDidChange();
@@ -122,7 +125,7 @@ TEST_F(EventEditing, EmptiedComment_StoresTheEmptyText) {
 
 TEST_F(EventEditing, UntouchedComment_StaysAsItWasRead) {
     const std::string read = "a\rb\u2028c\u00a0d\r\ne\n";
-    commands.documentModel.events[4].comments = read;
+    edit(commands.documentModel.events, 4, [&](auto& event) { event.comments = read; });
     commands.selection = 4;
     commands.saveCurrentComment();
     EXPECT_EQ(comments(4), read);
@@ -150,7 +153,7 @@ TEST_F(EventEditing, SaveIntoAnEmptyList_ChangesNothing) {
 }
 
 TEST_F(EventEditing, TypingInAnEventOfCRLF_KeepsItsLineEnds) {
-    commands.documentModel.events[4].comments = "one\r\ntwo";
+    edit(commands.documentModel.events, 4, [](auto& event) { event.comments = "one\r\ntwo"; });
     commands.selection = 4;
     commands.typedText = "one\ntwo\nthree";
     commands.textDidChange();
@@ -161,7 +164,7 @@ TEST_F(EventEditing, TypingInAnEventOfCRLF_KeepsItsLineEnds) {
 }
 
 TEST_F(EventEditing, RemovingTheOnlyLineEndAndUndoingThat_KeepsItsKind) {
-    commands.documentModel.events[4].comments = "one\r\ntwo";
+    edit(commands.documentModel.events, 4, [](auto& event) { event.comments = "one\r\ntwo"; });
     commands.selection = 4;
     for (const char* typed : {"onetwo", "one\ntwo"}) {
         commands.typedText = typed;
@@ -171,8 +174,8 @@ TEST_F(EventEditing, RemovingTheOnlyLineEndAndUndoingThat_KeepsItsKind) {
 }
 
 TEST_F(EventEditing, TypingInAnotherEvent_HasItsOwnLineEnds) {
-    commands.documentModel.events[4].comments = "one\rtwo";
-    commands.documentModel.events[5].comments = "one\ntwo";
+    edit(commands.documentModel.events, 4, [](auto& event) { event.comments = "one\rtwo"; });
+    edit(commands.documentModel.events, 5, [](auto& event) { event.comments = "one\ntwo"; });
     for (const std::size_t row : {4U, 5U, 6U, 4U}) {
         commands.selection = row;
         commands.typedText = "1\n2";
@@ -184,7 +187,8 @@ TEST_F(EventEditing, TypingInAnotherEvent_HasItsOwnLineEnds) {
 }
 
 TEST_F(EventEditing, MixedLineEnds_TypingMakesThemLineFeeds) {
-    commands.documentModel.events[4].comments = "one\r\ntwo\rthree";
+    edit(commands.documentModel.events, 4,
+         [](auto& event) { event.comments = "one\r\ntwo\rthree"; });
     commands.selection = 4;
     commands.typedText = "one\ntwo\nthree.";
     commands.textDidChange();

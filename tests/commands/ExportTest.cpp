@@ -8,6 +8,7 @@
 #include "commands/EditedEDL.h"
 #include "commands/RecordingCommands.h"
 #include "commands/SampleEvents.h"
+#include "support/Records.h"
 #include "support/RowName.h"
 #include "support/TemporaryFolder.h"
 #include "support/WithoutPrivileges.h"
@@ -94,7 +95,7 @@ TEST_P(Export, EmptyDocument_TheFixedLines) {
 }
 
 TEST_P(Export, RemovedEvents_AreNotInTheFile) {
-    commands.documentModel.events[1].clipName = "unwanted";
+    edit(commands.documentModel.events, 1, [](auto& event) { event.clipName = "unwanted"; });
     commands.selection = 1;
     commands.removeSelectedEvent();
     exportTo(folder / "out");
@@ -119,13 +120,13 @@ TEST_P(Export, ReadOnlyFolder_WarnsAndKeepsTheStatus) {
 }
 
 TEST_P(Export, MissingFolder_WarnsAndChangesNothing) {
-    const auto events = commands.document().events;
+    const auto events = records(commands.document().events);
     exportTo(folder / "nowhere" / "out.txt");
     EXPECT_THAT(commands.calls, ElementsAre(savePanel(), "busy", "idle", "warning: Export failed"));
     ASSERT_THAT(commands.alerts, SizeIs(1));
     EXPECT_EQ(commands.alerts[0].information,
               "The file \"out.txt\" could not be written: No such file or directory.");
-    EXPECT_EQ(commands.document().events, events);
+    EXPECT_EQ(records(commands.document().events), events);
 }
 
 INSTANTIATE_TEST_SUITE_P(

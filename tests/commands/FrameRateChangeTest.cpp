@@ -7,6 +7,7 @@
 #include "commands/RecordingCommands.h"
 #include "commands/SampleEvents.h"
 #include "commands/TimelineRate.h"
+#include "support/Records.h"
 #include "support/RowName.h"
 
 namespace clipvane::test {
@@ -27,7 +28,11 @@ class FrameRateChange : public testing::Test {
         commands.fpsChanged();
     }
 
-    TimelineEvent& event(std::size_t row) { return commands.documentModel.events[row]; }
+    EventView event(std::size_t row) { return commands.documentModel.events[row]; }
+
+    void set(std::size_t row, std::string TimelineEvent::*field, const char* text) {
+        edit(commands.documentModel.events, row, [&](auto& event) { event.*field = text; });
+    }
 
     RecordingCommands commands;
 };
@@ -41,10 +46,10 @@ TEST_F(FrameRateChange, OtherRate_StepByStep) {
 }
 
 TEST_F(FrameRateChange, OtherRate_ConvertsEveryTimecode) {
-    event(2).sourceIn = "01:00:00:05";
-    event(2).sourceOut = "01:00:00:10";
-    event(2).recordIn = "00:00:00:13";
-    event(2).recordOut = "00:00:00:24";
+    set(2, &TimelineEvent::sourceIn, "01:00:00:05");
+    set(2, &TimelineEvent::sourceOut, "01:00:00:10");
+    set(2, &TimelineEvent::recordIn, "00:00:00:13");
+    set(2, &TimelineEvent::recordOut, "00:00:00:24");
     choose("50 fps");
     EXPECT_EQ(event(2).sourceIn, "01:00:00:10");
     EXPECT_EQ(event(2).sourceOut, "01:00:00:20");
@@ -61,7 +66,7 @@ TEST_F(FrameRateChange, TheCommentBeingTyped_IsStoredFirst) {
 }
 
 TEST_F(FrameRateChange, CurrentRate_NothingConvertedButManual) {
-    event(0).sourceIn = "1:2:3:4";
+    set(0, &TimelineEvent::sourceIn, "1:2:3:4");
     choose("25 fps");
     EXPECT_EQ(commands.status, "Converted 0 timecodes from 25 fps to 25 fps.");
     EXPECT_EQ(event(0).sourceIn, "1:2:3:4");
@@ -73,7 +78,7 @@ TEST_F(FrameRateChange, CurrentRate_NothingConvertedButManual) {
 
 TEST_F(FrameRateChange, RatesWithinATenThousandth_AreTheSame) {
     commands.documentModel.fps = 30000.0 / 1001;
-    event(0).sourceIn = "1:2:3:4";
+    set(0, &TimelineEvent::sourceIn, "1:2:3:4");
     choose("29.97 fps");
     EXPECT_EQ(commands.status, "Converted 0 timecodes from 29.97 fps to 29.97 fps.");
     EXPECT_EQ(event(0).sourceIn, "1:2:3:4");
@@ -83,7 +88,7 @@ TEST_F(FrameRateChange, RatesWithinATenThousandth_AreTheSame) {
 
 TEST_F(FrameRateChange, SameBase_KeepsCountsAndNormalizesTheText) {
     commands.documentModel.fps = 29.97;
-    event(0).sourceIn = "1:2:3:4";
+    set(0, &TimelineEvent::sourceIn, "1:2:3:4");
     choose("30 fps");
     EXPECT_EQ(commands.status, "Converted 48 timecodes from 29.97 fps to 30 fps.");
     EXPECT_EQ(event(0).sourceIn, "01:02:03:04");
@@ -91,9 +96,9 @@ TEST_F(FrameRateChange, SameBase_KeepsCountsAndNormalizesTheText) {
 }
 
 TEST_F(FrameRateChange, EmptyRecordOut_IsNotCountedAndStaysEmpty) {
-    commands.documentModel.events.resize(1);
+    fillWithSamples(commands.documentModel, 1);
     commands.selection = 0;
-    event(0).recordOut = "";
+    set(0, &TimelineEvent::recordOut, "");
     choose("24 fps");
     EXPECT_EQ(commands.status, "Converted 3 timecodes from 25 fps to 24 fps.");
     EXPECT_EQ(event(0).recordOut, "");
@@ -101,7 +106,7 @@ TEST_F(FrameRateChange, EmptyRecordOut_IsNotCountedAndStaysEmpty) {
 
 TEST_F(FrameRateChange, DropFrameTimecode_KeepsItsSeparator) {
     commands.documentModel.fps = 29.97;
-    event(0).sourceIn = "01:00:00;00";
+    set(0, &TimelineEvent::sourceIn, "01:00:00;00");
     choose("25 fps");
     EXPECT_EQ(event(0).sourceIn, "01:00:00;00");
     EXPECT_EQ(event(0).sourceOut, "01:00:04:00");
@@ -122,7 +127,7 @@ TEST_F(FrameRateChange, FromAnUnusualRate_ThePopUpIsToldTheChosenOne) {
 }
 
 TEST_F(FrameRateChange, ThereAndBack_IsLossy) {
-    event(0).sourceIn = "00:00:00:12";
+    set(0, &TimelineEvent::sourceIn, "00:00:00:12");
     choose("24 fps");
     EXPECT_EQ(event(0).sourceIn, "00:00:00:12");  // 11.52
     choose("25 fps");
@@ -177,11 +182,12 @@ INSTANTIATE_TEST_SUITE_P(
     RowName());
 
 TEST(ConvertTimecodes, CountsTimecodesOfAllFourFields) {
-    std::vector<TimelineEvent> events(3);
-    events[0].sourceIn = "00:00:00:01";
-    events[1].sourceOut = "none";
-    events[1].recordIn = "00:00:00:01";
-    events[2].recordOut = "00:00:00:01";
+    std::vector<TimelineEvent> records(3);
+    records[0].sourceIn = "00:00:00:01";
+    records[1].sourceOut = "none";
+    records[1].recordIn = "00:00:00:01";
+    records[2].recordOut = "00:00:00:01";
+    EventList events(records);
     EXPECT_EQ(convertTimecodes(events, 25, 50), 3U);
     EXPECT_EQ(events[0].sourceIn, "00:00:00:02");
     EXPECT_EQ(events[1].sourceOut, "none");
@@ -198,8 +204,9 @@ struct DifferenceRow {
 class RateDifference : public testing::TestWithParam<DifferenceRow> {};
 
 TEST_P(RateDifference, DecidesWhetherToConvert) {
-    std::vector<TimelineEvent> events(1);
-    events[0].sourceIn = "1:2:3:4";
+    TimelineEvent event;
+    event.sourceIn = "1:2:3:4";
+    EventList events({event});
     EXPECT_EQ(convertTimecodes(events, GetParam().from, GetParam().to),
               GetParam().converts ? 1U : 0U);
     EXPECT_EQ(events[0].sourceIn == "1:2:3:4", !GetParam().converts);

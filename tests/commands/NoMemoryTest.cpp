@@ -9,6 +9,7 @@
 
 #include "commands/RecordingCommands.h"
 #include "commands/SampleEvents.h"
+#include "support/Records.h"
 #include "support/RowName.h"
 #include "support/TemporaryFolder.h"
 
@@ -75,12 +76,12 @@ struct KeptRow {
 class NoMemoryKept : public NoMemory, public testing::WithParamInterface<KeptRow> {};
 
 TEST_P(NoMemoryKept, UserIsToldAndAllIsAsBefore) {
-    const auto events = commands.document().events;
+    const auto events = records(commands.document().events);
     commands.poor = GetParam().poor;
     (commands.*GetParam().command)();
     ASSERT_THAT(commands.alerts, SizeIs(1));
     EXPECT_EQ(commands.alerts[0].message, GetParam().message);
-    EXPECT_EQ(commands.document().events, events);
+    EXPECT_EQ(records(commands.document().events), events);
     EXPECT_THAT(commands.document().removedEvents, SizeIs(0));
     EXPECT_EQ(commands.document().fps, 25.0);
     EXPECT_EQ(commands.status, "as before");
@@ -130,7 +131,7 @@ TEST_P(NoMemoryToShow, ChangeIsMadeWholeAndTheUserIsTold) {
     EXPECT_THAT(commands.alerts,
                 ElementsAre(Alert{Alert::Style::warning, "Not enough memory",
                                   "The change was made, but the window may not show it."}));
-    EXPECT_EQ(commands.document().events, undisturbed.document().events);
+    EXPECT_EQ(records(commands.document().events), records(undisturbed.document().events));
     EXPECT_EQ(commands.document().removedEvents, undisturbed.document().removedEvents);
     EXPECT_EQ(commands.document().fps, undisturbed.document().fps);
     const bool isExport = std::filesystem::exists(folder / "expected");

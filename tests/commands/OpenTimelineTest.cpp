@@ -11,6 +11,7 @@
 #include "commands/Messages.h"
 #include "commands/RecordingCommands.h"
 #include "commands/SampleEvents.h"
+#include "support/Records.h"
 #include "support/RowName.h"
 #include "support/TemporaryFolder.h"
 
@@ -71,12 +72,12 @@ TEST_F(OpenTimeline, TwoEvents_FillTheDocument) {
 
 TEST_F(OpenTimeline, PanelCancelled_OnlyTheFirstLogLine) {
     fillWithSamples(commands.documentModel, 2);
-    const auto events = commands.document().events;
+    const auto events = records(commands.document().events);
     commands.selection = 1;
     commands.typedText = "half a thought";
     commands.openTimeline();
     EXPECT_THAT(commands.calls, ElementsAre("log: Open Timeline clicked.", "open panel"));
-    EXPECT_EQ(commands.document().events, events);
+    EXPECT_EQ(records(commands.document().events), events);
     EXPECT_EQ(commands.document().sourceURL, std::nullopt);
     EXPECT_EQ(commands.status, "as before");
 }
@@ -140,8 +141,8 @@ class OpenTimelineFails : public OpenTimeline, public testing::WithParamInterfac
 TEST_P(OpenTimelineFails, TheEarlierTimelineStaysWhole) {
     open("cut.edl", twoEventsAt25);
     commands.removeSelectedEvent();
-    commands.documentModel.events[0].comments = "mine";
-    const TimelineEvent event = commands.document().events[0];
+    edit(commands.documentModel.events, 0, [](auto& event) { event.comments = "mine"; });
+    const TimelineEvent event = commands.document().events[0].record();
     const TimelineEvent removed = commands.document().removedEvents[0];
     const std::string status = commands.status;
     commands.alerts.clear();
@@ -160,7 +161,7 @@ TEST_P(OpenTimelineFails, TheEarlierTimelineStaysWhole) {
                 ElementsAre("log: Open Timeline clicked.", "open panel", "busy", "idle",
                             "log: Open timeline failed: " + alert.information,
                             "warning: Could not open timeline"));
-    EXPECT_THAT(commands.document().events, ElementsAre(event));
+    EXPECT_THAT(records(commands.document().events), ElementsAre(event));
     EXPECT_THAT(commands.document().removedEvents, ElementsAre(removed));
     EXPECT_EQ(commands.document().sourceURL, folder / "cut.edl");
     EXPECT_EQ(commands.document().fps, 25.0);

@@ -29,7 +29,7 @@ inline TimelineEvent sampleEvent(const std::string& number = "001") {
 
 /// Refills `document` with `count` sample events numbered from 001, at 25 frames per second.
 inline void fillWithSamples(TimelineDocument& document, std::size_t count) {
-    document.events.clear();
+    document.events = {};
     for (std::size_t n = 1; n <= count; ++n) {
         std::string number = std::to_string(n);
         if (number.size() < 3) number.insert(0, 3 - number.size(), '0');

@@ -35,10 +35,11 @@ bool isColumn(std::string_view text) {
 using Times = std::array<std::string, 4>;
 
 /// The times of the events that an EDL can hold.
-std::vector<Times> plainTimes(const std::vector<TimelineEvent>& events) {
+std::vector<Times> plainTimes(const EventList& events) {
     std::vector<Times> all;
-    for (const TimelineEvent& e : events) {
-        const Times times{e.sourceIn, e.sourceOut, e.recordIn, e.recordOut};
+    for (const EventView& e : events) {
+        const Times times{std::string(e.sourceIn), std::string(e.sourceOut),
+                          std::string(e.recordIn), std::string(e.recordOut)};
         const bool fits = isColumn(e.reelID) && isColumn(e.track);
         if (fits && std::ranges::all_of(times, isPlain)) all.push_back(times);
     }

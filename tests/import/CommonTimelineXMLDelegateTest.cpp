@@ -10,13 +10,14 @@
 
 #include "import/Summary.h"
 #include "import/TimelineParser.h"
+#include "support/Records.h"
 #include "support/RowName.h"
 
 namespace clipvane::test {
 namespace {
 
 std::vector<TimelineEvent> eventsOf(std::string_view xml, double fps = 25) {
-    return TimelineParser::parseXML(xml, fps);
+    return records(TimelineParser::parseXML(xml, fps));
 }
 
 TimelineEvent lastEvent(std::string_view xml) {
@@ -186,15 +187,15 @@ TEST(XMLClips, TextIsOnlyResetAtElementStarts) {
 TEST(CommonTimelineXMLDelegate, ClosingSequenceWithoutClosingClip_EndsTheEvent) {
     const char* const none[] = {nullptr};
     CommonTimelineXMLDelegate reader(25);
-    EXPECT_TRUE(reader.events.empty());
     reader.didStartElement("sequence", XMLAttributes(none));
     reader.didStartElement("clip", XMLAttributes(none));
     reader.didEndElement("sequence");
     reader.didStartElement("name", XMLAttributes(none));
     reader.foundCharacters("lost");
     reader.didEndElement("name");
-    ASSERT_EQ(reader.events.size(), 1U);
-    EXPECT_EQ(reader.events[0].clipName, "clip");
+    const EventList events = reader.finish();
+    ASSERT_EQ(events.size(), 1U);
+    EXPECT_EQ(events[0].clipName, "clip");
 }
 
 TEST(CommonTimelineXMLDelegate, TextInPieces_IsAppended) {
@@ -207,10 +208,11 @@ TEST(CommonTimelineXMLDelegate, TextInPieces_IsAppended) {
     reader.didStartElement("comment", XMLAttributes(none));
     for (const char* piece : {" a", "", " b\xC3", "\xA9 ", " c "}) reader.foundCharacters(piece);
     reader.didEndElement("comment");
-    ASSERT_EQ(reader.events.size(), 1U);
-    EXPECT_EQ(reader.events[0].comments, "a b\u00E9  c");
-    EXPECT_EQ(reader.events[0].reelID, "r1");
-    EXPECT_EQ(reader.events[0].sourceIn, "00:00:01:00");
+    const EventList events = reader.finish();
+    ASSERT_EQ(events.size(), 1U);
+    EXPECT_EQ(events[0].comments, "a b\u00E9  c");
+    EXPECT_EQ(events[0].reelID, "r1");
+    EXPECT_EQ(events[0].sourceIn, "00:00:01:00");
 }
 
 // Hostile numbers that reach the fatal cases through a document.

@@ -160,7 +160,7 @@ TEST(CostlyXML, AssetsNameWithoutEndForEveryClip_IsMalformed) {
     const auto events =
         TimelineParser::parseXML(asset + repeated("<clip ref='r'/>", 100'000) + "</a>", 25);
     EXPECT_LT(events.size(), 200U);
-    for (const TimelineEvent& event : events) ASSERT_EQ(event.clipName.size(), 1'000'000U);
+    for (const EventView& event : events) ASSERT_EQ(event.clipName.size(), 1'000'000U);
 }
 
 /// Four times the document, and eight megabytes.

@@ -64,9 +64,10 @@ std::string generateEDL(Random& random) {
     return text;
 }
 
-std::vector<std::string> summaries(const std::vector<TimelineEvent>& events) {
+template <class Events>
+std::vector<std::string> summaries(const Events& events) {
     std::vector<std::string> all;
-    for (const TimelineEvent& event : events) all.push_back(summary(event));
+    for (const auto& event : events) all.push_back(summary(event));
     return all;
 }
 

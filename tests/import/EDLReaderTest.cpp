@@ -7,6 +7,7 @@
 #include <string>
 
 #include "import/TimelineParser.h"
+#include "support/Records.h"
 #include "support/RowName.h"
 
 namespace clipvane::test {
@@ -28,8 +29,12 @@ std::string lines(std::initializer_list<std::string_view> all, std::string_view 
     return text;
 }
 
+std::vector<TimelineEvent> eventsOf(std::string_view text) {
+    return records(TimelineParser::parseEDL(text));
+}
+
 TEST(EDLReader, AnEventLine_FillsEveryField) {
-    const auto events = TimelineParser::parseEDL(eventLine);
+    const auto events = eventsOf(eventLine);
     ASSERT_EQ(events.size(), 1U);
     const TimelineEvent& event = events[0];
     EXPECT_NE(event.id, UUID());
@@ -58,7 +63,7 @@ struct Row {
 class EDLWithOneEvent : public testing::TestWithParam<Row> {};
 
 TEST_P(EDLWithOneEvent, HasItsNameAndRawText) {
-    const auto events = TimelineParser::parseEDL(GetParam().text);
+    const auto events = eventsOf(GetParam().text);
     ASSERT_EQ(events.size(), 1U);
     EXPECT_EQ(events[0].clipName, GetParam().clipName);
     EXPECT_EQ(events[0].rawText, GetParam().rawText);
@@ -144,7 +149,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(EDLReader, BlanksAndTextAroundTheEvent_AreInRawText) {
     const std::string line = " \t" + std::string(eventLine) + "  and more ";
-    const auto events = TimelineParser::parseEDL(line + "\n");
+    const auto events = eventsOf(line + "\n");
     ASSERT_EQ(events.size(), 1U);
     EXPECT_EQ(events[0].rawText, line);
 }
@@ -152,18 +157,17 @@ TEST(EDLReader, BlanksAndTextAroundTheEvent_AreInRawText) {
 TEST(EDLReader, EventsStayInTheOrderOfTheirLines) {
     const std::string second = "001  B  A2  C  00:00:07:00 00:00:08:00 01:00:00:00 01:00:01:00";
     const std::string text = lines({second, eventLine, "* FROM CLIP NAME: X", eventLine, second});
-    EXPECT_THAT(TimelineParser::parseEDL(text),
-                testing::ElementsAre(Field(&TimelineEvent::rawText, second),
-                                     Field(&TimelineEvent::clipName, "X"),
-                                     Field(&TimelineEvent::clipName, "Clip 001"),
-                                     Field(&TimelineEvent::track, "A2")));
+    EXPECT_THAT(eventsOf(text), testing::ElementsAre(Field(&TimelineEvent::rawText, second),
+                                                     Field(&TimelineEvent::clipName, "X"),
+                                                     Field(&TimelineEvent::clipName, "Clip 001"),
+                                                     Field(&TimelineEvent::track, "A2")));
 }
 
 TEST(EDLReader, ALineRepeated_GivesEventsWithIdentifiersOfTheirOwn) {
     std::string text;
     for (int i = 0; i < 3000; ++i) text += std::string(eventLine) + "\n* ONE\n";
     std::set<std::string> identifiers;
-    const auto events = TimelineParser::parseEDL(text);
+    const auto events = eventsOf(text);
     for (const TimelineEvent& event : events) {
         identifiers.insert(event.id.text());
         ASSERT_EQ(event.rawText, lines({eventLine, "* ONE"}));
@@ -173,8 +177,8 @@ TEST(EDLReader, ALineRepeated_GivesEventsWithIdentifiersOfTheirOwn) {
 }
 
 TEST(EDLReader, AnEventLineHoldingFromClipName_IsAnEvent) {
-    const auto events = TimelineParser::parseEDL(
-        lines({eventLine, std::string(eventLine) + " * FROM CLIP NAME: X"}));
+    const auto events =
+        eventsOf(lines({eventLine, std::string(eventLine) + " * FROM CLIP NAME: X"}));
     ASSERT_EQ(events.size(), 2U);
     EXPECT_EQ(events[0].clipName, "Clip 001");
     EXPECT_EQ(events[1].clipName, "Clip 001");
@@ -182,13 +186,13 @@ TEST(EDLReader, AnEventLineHoldingFromClipName_IsAnEvent) {
 
 TEST(EDLReader, ByteOrderMarkBeforeTheFirstEvent_HidesThatEvent) {
     const std::string mark = "\uFEFF";
-    EXPECT_EQ(TimelineParser::parseEDL(mark + lines({eventLine, eventLine})).size(), 1U);
-    EXPECT_EQ(TimelineParser::parseEDL(mark + lines({"TITLE: T", eventLine})).size(), 1U);
+    EXPECT_EQ(eventsOf(mark + lines({eventLine, eventLine})).size(), 1U);
+    EXPECT_EQ(eventsOf(mark + lines({"TITLE: T", eventLine})).size(), 1U);
 }
 
 TEST(EDLReader, UnicodeDigits_StayAsWritten) {
-    const auto events = TimelineParser::parseEDL(
-        "\u0661 AX V C \u0660\u0660:00:00:00 00:00:05:00 01:00:00:00 01:00:05:00");
+    const auto events =
+        eventsOf("\u0661 AX V C \u0660\u0660:00:00:00 00:00:05:00 01:00:00:00 01:00:05:00");
     ASSERT_EQ(events.size(), 1U);
     EXPECT_EQ(events[0].clipName, "Clip \u0661");
     EXPECT_EQ(events[0].sourceIn, "\u0660\u0660:00:00:00");
@@ -196,7 +200,7 @@ TEST(EDLReader, UnicodeDigits_StayAsWritten) {
 
 TEST(EDLReader, WithoutEventLines_YieldsNothing) {
     for (const auto& text : {""s, "\n"s, "TITLE: T\n* ONE\nFROM CLIP NAME: A\n"s, "\0\0"s}) {
-        EXPECT_TRUE(TimelineParser::parseEDL(text).empty()) << text;
+        EXPECT_TRUE(eventsOf(text).empty()) << text;
     }
 }
 

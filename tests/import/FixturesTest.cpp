@@ -33,7 +33,7 @@ TEST_P(SampleTimeline, IsRead) {
     EXPECT_EQ(result->fps, GetParam().fps);
     EXPECT_EQ(result->fpsSource, GetParam().fpsSource);
     std::vector<std::string> events;
-    for (const TimelineEvent& event : result->events) events.push_back(summary(event));
+    for (const EventView& event : result->events) events.push_back(summary(event));
     EXPECT_THAT(events, testing::ElementsAreArray(GetParam().events));
 }
 
@@ -141,8 +141,8 @@ INSTANTIATE_TEST_SUITE_P(
 /// way, are read as.
 std::string importReport() {
     std::string report;
-    const auto add = [&](const std::vector<TimelineEvent>& events) {
-        for (const TimelineEvent& event : events) report += summary(event) + '\n';
+    const auto add = [&](const EventList& events) {
+        for (const EventView& event : events) report += summary(event) + '\n';
     };
     for (const char* file : {"harbour.edl", "pier-crlf.edl", "scenes-latin1.edl", "regatta.xml",
                              "lighthouse.fcpxml", "generic.xml"}) {

@@ -76,11 +76,11 @@ TEST_F(LongText, Comments_AreJoined) {
                                 repeated("F") + "ROM CLIP NAME"}) {
         const auto events = TimelineParser::parseEDL(event + "\n" + comment);
         ASSERT_EQ(events.size(), 1U);
-        EXPECT_EQ(events[0].rawText.size(), event.size() + 1 + comment.size());
+        EXPECT_EQ(events[0].rawText().size(), event.size() + 1 + comment.size());
     }
     const auto events = TimelineParser::parseEDL(event + repeated("\n* x"));
     ASSERT_EQ(events.size(), 1U);
-    EXPECT_GE(events[0].rawText.size(), length);
+    EXPECT_GE(events[0].rawText().size(), length);
 }
 
 TEST_F(LongText, NearMissesOfFrameRates_GiveNone) {
@@ -136,7 +136,7 @@ TEST_F(LongText, XMLTextAndName_AreKept) {
 TEST_F(LongText, XMLAttributesByTheThousand_AreLookedThrough) {
     std::string xml = "<clip";
     for (int i = 0; i < 100'000; ++i) xml += " a" + std::to_string(i) + "=''";
-    EXPECT_EQ(TimelineParser::parseXML(xml + " name='x'/>", 25).at(0).clipName, "x");
+    EXPECT_EQ(TimelineParser::parseXML(xml + " name='x'/>", 25)[0].clipName, "x");
 }
 
 }  // namespace

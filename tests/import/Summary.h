@@ -20,4 +20,8 @@ inline std::string summary(const TimelineEvent& event) {
     return text + (event.highlighted ? "yes" : "no");
 }
 
+inline std::string summary(const EventView& event) {
+    return summary(event.record());
+}
+
 }  // namespace clipvane::test

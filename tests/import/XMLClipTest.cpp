@@ -6,6 +6,7 @@
 #include <string>
 
 #include "import/TimelineParser.h"
+#include "support/Records.h"
 #include "support/RowName.h"
 
 namespace clipvane::test {
@@ -32,7 +33,7 @@ struct Row {
 class XMLClip : public testing::TestWithParam<Row> {};
 
 TEST_P(XMLClip, HasTheValue) {
-    const auto events = TimelineParser::parseXML(GetParam().xml, 25);
+    const auto events = records(TimelineParser::parseXML(GetParam().xml, 25));
     ASSERT_FALSE(events.empty());
     EXPECT_EQ(events.back().*GetParam().field, GetParam().value);
 }

@@ -140,7 +140,7 @@ TEST(XMLEncodings, ALongDocument_IsTranscodedWhole) {
     for (std::size_t i = 0; i < count; ++i) text += "<clip name='Sc\xE8ne \xFF'/>";
     const auto events = TimelineParser::parseXML(text + "</a>", 25);
     ASSERT_EQ(events.size(), count);
-    for (const TimelineEvent& event : events) ASSERT_EQ(event.clipName, "Sc\u00E8ne \u00FF");
+    for (const EventView& event : events) ASSERT_EQ(event.clipName, "Sc\u00E8ne \u00FF");
 }
 
 TEST(XMLEncodings, UndeclaredLatin1_GivesTheEventsBeforeTheFirstAccent) {

@@ -20,7 +20,7 @@ constexpr std::string_view body =
 
 std::string summaries(std::string_view document) {
     std::string all;
-    for (const TimelineEvent& event : TimelineParser::parseXML(document, 25)) {
+    for (const EventView& event : TimelineParser::parseXML(document, 25)) {
         all += summary(event) + '\n';
     }
     return all;

@@ -7,6 +7,7 @@
 
 #include "import/TimelineParser.h"
 #include "support/LongTest.h"
+#include "support/Records.h"
 #include "support/RowName.h"
 #include "support/TemporaryFolder.h"
 
@@ -18,7 +19,7 @@ using testing::ElementsAre;
 using testing::Field;
 
 std::vector<TimelineEvent> eventsOf(std::string_view xml) {
-    return TimelineParser::parseXML(xml, 25);
+    return records(TimelineParser::parseXML(xml, 25));
 }
 
 struct CountRow {

@@ -10,15 +10,10 @@
 #include <set>
 
 #include "model/SampleEvent.h"
+#include "support/Records.h"
 
 namespace clipvane::test {
 namespace {
-
-std::vector<TimelineEvent> records(const EventList& list) {
-    std::vector<TimelineEvent> events;
-    for (const EventView& event : list) events.push_back(event.record());
-    return events;
-}
 
 TimelineEvent changed(const std::function<void(TimelineEvent&)>& change) {
     TimelineEvent event = sampleEvent();

@@ -13,6 +13,7 @@
 #include "model/SampleEvent.h"
 #include "model/TimelineDocument.h"
 #include "model/TimelineParseResult.h"
+#include "support/Records.h"
 #include "support/RowName.h"
 
 namespace clipvane::test {
@@ -201,13 +202,13 @@ TEST(TimelineDocument, Fresh_IsEmptyAtTheDefaultRate) {
 
 TEST(TimelineDocument, EventTakenOut_ChangesTheDocumentOnlyWhenWrittenBack) {
     TimelineDocument document;
-    document.events = {sampleEvent(), sampleEvent()};
-    TimelineEvent taken = document.events[1];
+    document.events = std::vector{sampleEvent(), sampleEvent()};
+    TimelineEvent taken = document.events[1].record();
     taken.comments = "changed";
     EXPECT_EQ(document.events[1].comments, sampleEvent().comments);
-    document.events[1] = taken;
+    document.events.replace(1, taken);
     EXPECT_EQ(document.events[1].comments, "changed");
-    EXPECT_EQ(document.events[0], sampleEvent());
+    EXPECT_EQ(document.events[0].record(), sampleEvent());
 }
 
 TEST(TimelineDocument, CannotBeCopied) {
@@ -216,10 +217,10 @@ TEST(TimelineDocument, CannotBeCopied) {
 }
 
 TEST(TimelineParseResult, CopyIsIndependent) {
-    const TimelineParseResult result{{sampleEvent()}, 25, "File"};
+    const TimelineParseResult result{std::vector{sampleEvent()}, 25, "File"};
     TimelineParseResult copy = result;
-    copy.events[0].clipName = "changed";
-    EXPECT_EQ(result.events[0], sampleEvent());
+    edit(copy.events, 0, [](auto& event) { event.clipName = "changed"; });
+    EXPECT_EQ(result.events[0].record(), sampleEvent());
 }
 
 }  // namespace

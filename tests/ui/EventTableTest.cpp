@@ -12,6 +12,7 @@
 #include <QScrollBar>
 #include <QTest>
 
+#include "support/Records.h"
 #include "support/ThrowingFatal.h"
 #include "ui/ColourMixing.h"
 #include "ui/Colours.h"
@@ -38,7 +39,7 @@ class EventTableTest : public testing::Test {
         model.allIsNew();
     }
     void removeRow(int row) {
-        model.rowGoes(row, [&] { document.events.erase(document.events.begin() + row); });
+        model.rowGoes(row, [&] { document.events.erase(static_cast<std::size_t>(row)); });
     }
     std::optional<std::size_t> selected() const {
         const auto rows = view.selectionModel()->selectedRows();
@@ -106,14 +107,14 @@ TEST_F(EventTableTest, EmptyDocument_NoRows) {
 TEST_F(EventTableTest, RowOutsideTheList_IsFatal) {
     fill(2);
     const QModelIndex stale = model.index(1, 0);
-    document.events.pop_back();
+    document.events.erase(document.events.size() - 1);
     const test::ThrowingFatal fatal;
     EXPECT_THROW(static_cast<void>(stale.data()), test::ThrowingFatal::Reason);
 }
 
 TEST_F(EventTableTest, RowViewOfAStaleRow_IsUnmarked) {
     fill(2);
-    document.events[1].highlighted = true;
+    test::edit(document.events, 1, [](auto& event) { event.highlighted = true; });
     EXPECT_TRUE(view.rowViewForRow(1).isMarked);
     EXPECT_FALSE(view.rowViewForRow(0).isMarked);
     EXPECT_FALSE(view.rowViewForRow(-1).isMarked);
@@ -122,8 +123,8 @@ TEST_F(EventTableTest, RowViewOfAStaleRow_IsUnmarked) {
 
 TEST_F(EventTableTest, Backgrounds_BaseAlternateAmberAndBlue) {
     fill(4);
-    document.events[2].highlighted = true;
-    document.events[3].highlighted = true;
+    test::edit(document.events, 2, [](auto& event) { event.highlighted = true; });
+    test::edit(document.events, 3, [](auto& event) { event.highlighted = true; });
     const QColor amber = over(colours::rgb(0.34, 0.27, 0.08, 0.8), colours::table);
     const QColor blue = colours::rgb(0.17, 0.33, 0.5, 0.95);
     expectAlmost(background(0), colours::table);
@@ -182,7 +183,9 @@ TEST_F(EventTableTest, TypeOnASelectedRow_IsLighter) {
 
 TEST_F(EventTableTest, LongClipName_LosesItsMiddle) {
     fill(1);
-    document.events[0].clipName = "A001_C001_a_very_long_name_of_a_clip_take_07.mov";
+    test::edit(document.events, 0, [](auto& event) {
+        event.clipName = "A001_C001_a_very_long_name_of_a_clip_take_07.mov";
+    });
     const auto& cell = dynamic_cast<const EventCell&>(*view.itemDelegate());
     const QString shown = cell.shownText(model.index(0, 1), 280);
     EXPECT_TRUE(shown.startsWith("A001_C001"));
@@ -326,10 +329,10 @@ TEST_F(EventTableTest, ColumnWiderThanTheView_IsNoTrapForTheKeys) {
 
 TEST_F(EventTableTest, HeaderEdgeDoubleClicked_ColumnFitsItsContents) {
     fill(3);
-    document.events[1].clipName = std::string(60, 'W');
+    test::edit(document.events, 1, [&](auto& event) { event.clipName = std::string(60, 'W'); });
     view.resizeColumnToContents(1);
     EXPECT_GT(view.columnWidth(1), 60 * 8);
-    document.events[1].clipName = "short";
+    test::edit(document.events, 1, [](auto& event) { event.clipName = "short"; });
     view.resizeColumnToContents(1);
     EXPECT_EQ(view.columnWidth(1), 280);
 }
@@ -363,7 +366,7 @@ TEST_F(EventTableTest, RateChanged_SelectionAndScrollPositionStay) {
     fill(100);
     view.selectRow(60);
     view.verticalScrollBar()->setValue(1234);
-    document.events[60].sourceIn = "03:00:00:00";
+    test::edit(document.events, 60, [](auto& event) { event.sourceIn = "03:00:00:00"; });
     model.textsChanged();
     EXPECT_EQ(selected(), 60U);
     EXPECT_EQ(view.verticalScrollBar()->value(), 1234);
@@ -396,7 +399,7 @@ TEST_F(EventTableTest, OtherFileOfTheSameLength_StartsAtItsTop) {
     fill(100);
     view.selectRow(60);
     document.events = test::sampleEvents(200);
-    document.events.erase(document.events.begin(), document.events.begin() + 100);
+    for (int i = 0; i < 100; ++i) document.events.erase(0);
     model.allIsNew();
     EXPECT_EQ(selected(), std::nullopt);
     EXPECT_EQ(model.index(0, 0).data().toString(), "101");
@@ -406,11 +409,11 @@ TEST_F(EventTableTest, NamesThatCouldBreakAView_AreShownAsText) {
     fill(1);
     const auto& cell = dynamic_cast<const EventCell&>(*view.itemDelegate());
     for (const char* name : {"<b>bold</b>", "two\nlines", "שלום", "😀", "a\u0001b"}) {
-        document.events[0].clipName = name;
+        test::edit(document.events, 0, [&](auto& event) { event.clipName = name; });
         EXPECT_FALSE(cell.shownText(model.index(0, 1), 280).contains('\n'));
         view.grab();  // painting it neither fails nor hangs
     }
-    document.events[0].clipName = "<b>bold</b>";
+    test::edit(document.events, 0, [](auto& event) { event.clipName = "<b>bold</b>"; });
     EXPECT_EQ(cell.shownText(model.index(0, 1), 280), "<b>bold</b>");
 }
 

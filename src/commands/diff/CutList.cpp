@@ -8,9 +8,9 @@
 namespace clipvane::diff {
 namespace {
 
-bool isBlack(const TimelineEvent& event) {
+bool isBlack(const EventView& event) {
     if (event.format == "EDL") return event.reelID == "BL" || event.reelID == "BLK";
-    return event.rawText == "gap";
+    return event.rawText() == "gap";
 }
 
 }  // namespace
@@ -50,8 +50,10 @@ std::string_view givenName(std::string_view clipName, std::string_view eventNumb
 }
 
 bool isFromEDL(const CutList& list) {
-    return std::ranges::all_of(list.events,
-                               [](const auto& event) { return event.format == "EDL"; });
+    for (const auto& event : list.events) {
+        if (event.format != "EDL") return false;
+    }
+    return true;
 }
 
 }  // namespace clipvane::diff

@@ -11,13 +11,13 @@
 
 #include "commands/diff/FrameCount.h"
 #include "commands/diff/TextNumbers.h"
-#include "model/TimelineEvent.h"
+#include "model/EventList.h"
 
 namespace clipvane::diff {
 
 /// What holds a list's events. Nothing here needs more of it than a size and events by row, and of
 /// an event its texts.
-using Events = std::vector<TimelineEvent>;
+using Events = EventList;
 
 /// One of the two lists that are compared. The events stay the caller's.
 struct CutList {

@@ -90,7 +90,7 @@ TEST(ChangeList, NamesThatWouldBeRead_AreBroken) {
                            {cut("A", 0, 50, 0), inserted, cut("B", 0, 50, 62)});
     ASSERT_TRUE(made.text.has_value());
     EXPECT_EQ(readBack(*made.text), made.stretches);
-    EXPECT_EQ(TimelineParser::parseEDL(*made.text).front().clipName, "Clip 001");
+    EXPECT_EQ(TimelineParser::parseEDL(*made.text)[0].clipName, "Clip 001");
 }
 
 TEST(ChangeList, WhatAnEDLCannotSay_IsRefused) {

@@ -90,7 +90,7 @@ std::vector<JudgedEvent> judgedOf(const std::vector<Row>& rows) {
     return judged;
 }
 
-std::vector<TimelineEvent> eventsOf(const std::vector<JudgedEvent>& judged) {
+diff::Events eventsOf(const std::vector<JudgedEvent>& judged) {
     std::vector<TimelineEvent> events;
     for (const JudgedEvent& from : judged) {
         TimelineEvent event;
@@ -108,7 +108,7 @@ std::vector<TimelineEvent> eventsOf(const std::vector<JudgedEvent>& judged) {
     return events;
 }
 
-std::vector<TimelineEvent> eventsOf(const std::vector<Row>& rows) {
+diff::Events eventsOf(const std::vector<Row>& rows) {
     return eventsOf(judgedOf(rows));
 }
 
@@ -136,19 +136,18 @@ CutVerdict verdictOf(const diff::CutDiff& diff, std::size_t oldCount, std::size_
     return verdict;
 }
 
-std::vector<std::string> reportOf(const diff::CutDiff& diff,
-                                  const std::vector<TimelineEvent>& oldEvents,
-                                  const std::vector<TimelineEvent>& newEvents) {
+std::vector<std::string> reportOf(const diff::CutDiff& diff, const diff::Events& oldEvents,
+                                  const diff::Events& newEvents) {
     std::vector<std::string> lines;
     for (const auto& line : diff.report) {
         if (line.kind == diff::ReportLine::Kind::black) {
             lines.push_back("black " + text(line.longer));
         } else if (line.kind == diff::ReportLine::Kind::lost) {
             const auto& event = diff.oldEvents[line.event];
-            lines.push_back(oldEvents[event.row].reelID + ' ' + describe(event));
+            lines.push_back(std::string(oldEvents[event.row].reelID) + ' ' + describe(event));
         } else {
             const auto& event = diff.newEvents[line.event];
-            lines.push_back(newEvents[event.row].reelID + ' ' + describe(event, diff));
+            lines.push_back(std::string(newEvents[event.row].reelID) + ' ' + describe(event, diff));
         }
     }
     return lines;

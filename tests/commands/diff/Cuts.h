@@ -33,13 +33,13 @@ Row cut(std::string reel, std::int64_t sourceIn, std::int64_t sourceOut, std::in
 
 /// The rows as the events of an EDL, numbered from 001; without a name they have the one that the
 /// reader makes up.
-std::vector<TimelineEvent> eventsOf(const std::vector<Row>& rows);
+diff::Events eventsOf(const std::vector<Row>& rows);
 
 /// The rows for the judge.
 std::vector<JudgedEvent> judgedOf(const std::vector<Row>& rows);
 
 /// The same events for the program and for the judge.
-std::vector<TimelineEvent> eventsOf(const std::vector<JudgedEvent>& judged);
+diff::Events eventsOf(const std::vector<JudgedEvent>& judged);
 
 diff::CutDiff compare(const std::vector<Row>& oldRows, const std::vector<Row>& newRows);
 
@@ -47,8 +47,7 @@ diff::CutDiff compare(const std::vector<Row>& oldRows, const std::vector<Row>& n
 CutVerdict verdictOf(const diff::CutDiff& diff, std::size_t oldCount, std::size_t newCount);
 
 /// The report line by line, with rows counted from 1: "X new, in place of 3", "black 10 longer".
-std::vector<std::string> reportOf(const diff::CutDiff& diff,
-                                  const std::vector<TimelineEvent>& oldEvents,
-                                  const std::vector<TimelineEvent>& newEvents);
+std::vector<std::string> reportOf(const diff::CutDiff& diff, const diff::Events& oldEvents,
+                                  const diff::Events& newEvents);
 
 }  // namespace clipvane::test

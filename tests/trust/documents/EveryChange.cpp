@@ -21,6 +21,7 @@
 #include "base/UTF8.h"
 #include "documents/GoodDocument.h"
 #include "import/TimelineParser.h"
+#include "support/Records.h"
 #include "support/SameFields.h"
 #include "support/ThrowingFatal.h"
 
@@ -35,8 +36,8 @@ std::size_t stops = 0;
 std::size_t faults = 0;
 
 std::vector<TimelineEvent> read(const GoodDocument& document, std::string_view bytes) {
-    if (document.isEDL) return TimelineParser::parseEDL(replaceInvalidUTF8(bytes));
-    return TimelineParser::parseXML(bytes, TimelineParser::detectFPS(bytes).value_or(24));
+    if (document.isEDL) return records(TimelineParser::parseEDL(replaceInvalidUTF8(bytes)));
+    return records(TimelineParser::parseXML(bytes, TimelineParser::detectFPS(bytes).value_or(24)));
 }
 
 bool isValid(const auto& field) {

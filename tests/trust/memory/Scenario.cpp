@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "memory/Scenario.h"
+#include "support/Records.h"
 
 #include <fstream>
 #include <iterator>
@@ -70,7 +71,7 @@ std::string utf16(std::string_view ascii) {
     return wide;
 }
 
-/// More events than the readers take for a sample of a file's density.
+/// More events than a list has in one block.
 std::string repeated(std::string_view head, const std::string& event, std::string_view tail) {
     std::string text(head);
     for (int i = 0; i < 3000; ++i) text += event;
@@ -111,17 +112,19 @@ void exportThroughLink(MemoryCommands& commands, const Place& place) {
 
 void exportManyEvents(MemoryCommands& commands, const Place& place) {
     exportOver(commands, place);
-    const TimelineEvent event = commands.documentModel.events[0];
-    commands.documentModel.events.assign(6000, event);
+    const TimelineEvent event = commands.documentModel.events[0].record();
+    commands.documentModel.events = std::vector(6000, event);
 }
 
 /// Timecodes whose conversion needs more room than they have, between usual ones.
 void changeRate(MemoryCommands& commands, const Place& place) {
     openOther(commands, place);
     auto& events = commands.documentModel.events;
-    events[1].sourceIn = "-9999:1:1:1";
-    events[1].recordIn = "99999999:1:1:1";
-    events[2].recordOut = "a text that is no timecode";
+    edit(events, 1, [](TimelineEvent& event) {
+        event.sourceIn = "-9999:1:1:1";
+        event.recordIn = "99999999:1:1:1";
+    });
+    edit(events, 2, [](auto& event) { event.recordOut = "a text that is no timecode"; });
     commands.title = "30 fps";
 }
 
@@ -132,7 +135,7 @@ void changeToEndlessRate(MemoryCommands& commands, const Place& place) {
 
 void type(MemoryCommands& commands, const Place& place) {
     openOther(commands, place);
-    commands.documentModel.events[0].comments = "old\r\nlines";
+    edit(commands.documentModel.events, 0, [](auto& event) { event.comments = "old\r\nlines"; });
     commands.isTyped = true;
     commands.typed = "new\nlines, more than the old ones, and longer";
 }
@@ -157,8 +160,8 @@ void appendField(std::string& text, bool isHighlighted) {
 std::string describe(const TimelineDocument& document) {
     std::string text;
     appendField(text, document.sourceURL ? document.sourceURL->native() : "none");
-    for (const auto* events : {&document.events, &document.removedEvents}) {
-        for (const TimelineEvent& event : *events) {
+    for (const auto& events : {records(document.events), document.removedEvents}) {
+        for (const TimelineEvent& event : events) {
             forEachField([&](const char*, const auto& field) { appendField(text, field); }, event);
         }
         text += "||";
