@@ -68,7 +68,7 @@ void report(std::size_t events, const char* lineEnds, std::string text) {
 int main() {
     std::printf("%9s  %-5s %9s %9s %9s %9s\n", "events", "ends", "MB", "ns/event", "peak/size",
                 "bytes/event");
-    for (const std::size_t events : {1'000, 10'000, 100'000, 1'000'000, 5'000'000}) {
+    for (const std::size_t events : {1'000U, 10'000U, 100'000U, 1'000'000U, 5'000'000U}) {
         report(events, "LF", generatedEDL(events));
     }
     report(1'000'000, "CR LF", withCarriageReturns(generatedEDL(1'000'000)));
