@@ -36,8 +36,8 @@ set(CPACK_DEBIAN_PROGRAM_PACKAGE_RECOMMENDS "fonts-inter, fonts-jetbrains-mono, 
 set(CPACK_DEBIAN_PROGRAM_DESCRIPTION
 "inspector for the edit timelines of video-editing systems
 Clipvane opens an EDL, an XMEML or an FCPXML file and shows every event
-in a table, with reel, source and record timecodes, durations and frame
-rate. It is exact to the frame, and never changes a file that it reads.
+in a table, with clip name, reel, source and record timecodes, and beside
+it the durations of the selected one. The file is never changed.
 .
 The list can be converted to another frame rate, commented and thinned
 out, and exported as a CSV report and as a new EDL.")
