@@ -89,6 +89,28 @@ TEST_F(HelpWindowTest, Text_IsReadAndCopiedButNotEdited) {
               colours::rgb(0.08, 0.09, 0.105));
 }
 
+TEST_F(HelpWindowTest, Text_StandsInsetAtEverySize) {
+    click("Help");
+    QWidget& window = *helpWindows().front();
+    auto& text = *window.findChild<QPlainTextEdit*>();
+    for (const QSize size : {QSize(620, 520), QSize(900, 700), QSize(540, 430)}) {
+        window.resize(size);
+        EXPECT_EQ(text.geometry(), window.rect().marginsRemoved(QMargins(18, 18, 18, 18)));
+        // The first letter, a "C", begins within two pixels of the inset of 10.
+        const QImage image = text.viewport()->grab().toImage();
+        int left = 0;
+        const auto ink = [&](int x) {
+            for (int y = 10; y < 30; ++y) {
+                if (image.pixelColor(x, y).lightness() > 128) return true;
+            }
+            return false;
+        };
+        while (left < 100 && !ink(left)) ++left;
+        EXPECT_GE(left, 10);
+        EXPECT_LE(left, 12);
+    }
+}
+
 TEST_F(HelpWindowTest, MainWindowClosed_HelpStays) {
     click("Help");
     controller.window()->close();

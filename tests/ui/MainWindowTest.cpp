@@ -178,6 +178,51 @@ TEST_F(MainWindowTest, TabOrderWithNothingToComment_PassesTheCommentsBy) {
     EXPECT_EQ(tabThrough(3), (QStringList{"Help", "Event Viewer", "Open Timeline"}));
 }
 
+TEST_F(MainWindowTest, Smallest_EveryControlStandsWholeAndApart) {
+    open(writeEDL("cut.edl", 20));
+    controller.window()->resize(1, 1);
+    const QRect window = controller.window()->rect();
+    std::vector<QRect> places;
+    for (QWidget* control : std::initializer_list<QWidget*>{
+             label("Clipvane"), button("Open Timeline"), label("Global FPS"),
+             find<FrameRatePopup>(), button("Remove Event"), button("Copy Info"),
+             button("Export CSV"), button("Export EDL"), button("Help"), find<EventTableView>(),
+             label("Selected Event"), find<StatusLabel>()}) {
+        ASSERT_NE(control, nullptr);
+        const QRect place(control->mapTo(controller.window(), QPoint()), control->size());
+        const std::string name =
+            control->metaObject()->className() + std::string(" at ") + std::to_string(place.x());
+        EXPECT_TRUE(window.contains(place)) << name;
+        EXPECT_EQ(control->visibleRegion().boundingRect(), control->rect()) << name;
+        for (const QRect& other : places) EXPECT_FALSE(place.intersects(other)) << name;
+        places.push_back(place);
+    }
+    for (const auto* pressed : controller.window()->findChildren<QPushButton*>()) {
+        EXPECT_GE(pressed->width(), pressed->sizeHint().width()) << pressed->text().toStdString();
+    }
+    EXPECT_GE(find<FrameRatePopup>()->width(), find<FrameRatePopup>()->sizeHint().width());
+    for (const auto* shown : controller.window()->findChildren<QLabel*>()) {
+        const auto* text = dynamic_cast<const TextLabel*>(shown);
+        if (text != nullptr && text->isVisible()) {
+            EXPECT_FALSE(text->isElided()) << text->text().toStdString();
+        }
+    }
+}
+
+TEST_F(MainWindowTest, Smallest_ShowsTenEventsAndTenRowsOfDetails) {
+    open(writeEDL("cut.edl", 20));
+    controller.window()->resize(1, 1);
+    auto& list = *find<EventTableView>();
+    const QRect tenth = list.visualRect(list.model()->index(9, 0));
+    EXPECT_TRUE(list.viewport()->rect().contains(tenth));
+    int whole = 0;
+    for (auto* widget : controller.window()->findChildren<QWidget*>()) {
+        const auto* row = dynamic_cast<DetailRowView*>(widget);
+        if (row != nullptr && row->visibleRegion().boundingRect() == row->rect()) ++whole;
+    }
+    EXPECT_GE(whole, 10);
+}
+
 TEST_F(MainWindowTest, TabOrder_ToolbarTableCommentsAndBack) {
     open(writeEDL("cut.edl", 1));
     button("Open Timeline")->setFocus();
