@@ -7,6 +7,8 @@
 
 #include <string>
 
+#include "support/RowText.h"
+
 namespace clipvane::test {
 
 /// Names a parameterised test after its row's `name`.
