@@ -5,27 +5,10 @@
 
 #include <string>
 
-#include "base/UUID.h"
 #include "model/TimelineDocument.h"
+#include "support/SampleEvent.h"
 
 namespace clipvane::test {
-
-/// An event of 100 frames at 25 frames per second.
-inline TimelineEvent sampleEvent(const std::string& number = "001") {
-    static UUIDGenerator generator;
-    TimelineEvent event;
-    event.id = generator.next();
-    event.eventNumber = number;
-    event.clipName = "A001_C002";
-    event.reelID = "A001";
-    event.sourceIn = "01:00:00:00";
-    event.sourceOut = "01:00:04:00";
-    event.recordIn = "00:00:00:00";
-    event.recordOut = "00:00:04:00";
-    event.format = "EDL";
-    event.track = "V";
-    return event;
-}
 
 /// Refills `document` with `count` sample events numbered from 001, at 25 frames per second.
 inline void fillWithSamples(TimelineDocument& document, std::size_t count) {

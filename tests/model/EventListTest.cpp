@@ -9,14 +9,14 @@
 #include <functional>
 #include <set>
 
-#include "model/SampleEvent.h"
+#include "model/FullEvent.h"
 #include "support/Records.h"
 
 namespace clipvane::test {
 namespace {
 
 TimelineEvent changed(const std::function<void(TimelineEvent&)>& change) {
-    TimelineEvent event = sampleEvent();
+    TimelineEvent event = fullEvent();
     change(event);
     return event;
 }
@@ -27,8 +27,8 @@ constexpr std::size_t wide = 70'000;  // more than a row's sixteen bits can tell
 std::vector<TimelineEvent> allKinds() {
     using Event = TimelineEvent;
     return {
-        sampleEvent(),
-        sampleEvent(),
+        fullEvent(),
+        fullEvent(),
         changed([](Event& e) { e = {}; }),
         changed([](Event& e) { e.format = "XML"; }),
         changed([](Event& e) { e.format = ""; }),
@@ -197,9 +197,9 @@ TEST(EventList, Copied_BothHaveTheSameIdentifiersButDrawNewOnesApart) {
 }
 
 TEST(EventList, GivenIdentifiers_AreKeptDoublesIncluded) {
-    const EventList list(std::vector{sampleEvent(), sampleEvent()});
-    EXPECT_EQ(list[0].id(), sampleEvent().id);
-    EXPECT_EQ(list[1].id(), sampleEvent().id);
+    const EventList list(std::vector{fullEvent(), fullEvent()});
+    EXPECT_EQ(list[0].id(), fullEvent().id);
+    EXPECT_EQ(list[1].id(), fullEvent().id);
 }
 
 // Changing.
@@ -224,8 +224,8 @@ TEST(EventList, Erased_TheOthersMoveUp) {
     }
     while (!list.empty()) list.erase(0);
     EXPECT_TRUE(records(list).empty());
-    list.push_back(sampleEvent());
-    EXPECT_EQ(records(list), std::vector{sampleEvent()});
+    list.push_back(fullEvent());
+    EXPECT_EQ(records(list), std::vector{fullEvent()});
 }
 
 TEST(EventList, Comments_AreSetChangedAndTakenAway) {
@@ -237,7 +237,7 @@ TEST(EventList, Comments_AreSetChangedAndTakenAway) {
     EXPECT_EQ(list[2].comments, std::string(wide, 'c'));
     list.setComments(2, "");
     EXPECT_EQ(list[2].record(), before);
-    EXPECT_EQ(list[0].comments, sampleEvent().comments);
+    EXPECT_EQ(list[0].comments, fullEvent().comments);
 }
 
 TEST(EventList, MovedAndCopied_ListsStandByThemselves) {
@@ -252,8 +252,8 @@ TEST(EventList, MovedAndCopied_ListsStandByThemselves) {
     copy.erase(2);
     EXPECT_EQ(records(moved), events);
     first = {};
-    first.push_back(sampleEvent());
-    EXPECT_EQ(records(first), std::vector{sampleEvent()});
+    first.push_back(fullEvent());
+    EXPECT_EQ(records(first), std::vector{fullEvent()});
     moved = copy;
     EXPECT_EQ(records(moved), records(copy));
 }
@@ -286,17 +286,17 @@ TEST(EventList, SetComments_LeavesTheOtherFieldsOfAView) {
     const EventView view = list[0];
     list.setComments(0, std::string(wide, 'c'));
     list.setComments(0, "");
-    EXPECT_EQ(view.clipName, sampleEvent().clipName);
-    EXPECT_EQ(view.sourceIn, sampleEvent().sourceIn);
+    EXPECT_EQ(view.clipName, fullEvent().clipName);
+    EXPECT_EQ(view.sourceIn, fullEvent().sourceIn);
 }
 
 TEST(EventList, Converted_AViewKeepsItsTexts) {
     EventList list(allKinds());
     const EventView view = list[0];
     list.convertTimecodes({25, 24});
-    EXPECT_EQ(view.clipName, sampleEvent().clipName);
-    EXPECT_EQ(view.comments, sampleEvent().comments);
-    EXPECT_EQ(view.rawText(), sampleEvent().rawText);
+    EXPECT_EQ(view.clipName, fullEvent().clipName);
+    EXPECT_EQ(view.comments, fullEvent().comments);
+    EXPECT_EQ(view.rawText(), fullEvent().rawText);
 }
 
 // Conversion.

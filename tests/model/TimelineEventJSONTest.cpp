@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "base/UTF8.h"
-#include "model/SampleEvent.h"
+#include "model/FullEvent.h"
 #include "support/AppendUTF8.h"
 #include "support/LongTest.h"
 
@@ -57,7 +57,7 @@ void expectFailure(std::string_view json) {
 }
 
 TEST(EncodeJSON, WritesAllKeysInTheOrderOfTheFields) {
-    EXPECT_EQ(encodeJSON(sampleEvent()), object(sampleMembers()));
+    EXPECT_EQ(encodeJSON(fullEvent()), object(sampleMembers()));
 }
 
 TEST(EncodeJSON, FreshEvent_WritesEmptyTextsRatherThanNothing) {
@@ -76,7 +76,7 @@ TEST(EncodeJSON, SpecialCharacters_AreEscaped) {
 }
 
 TEST(EncodeJSON, InvalidUTF8_KeepsTheRest) {
-    TimelineEvent event = sampleEvent();
+    TimelineEvent event = fullEvent();
     event.reelID =
         "A\xFF"
         "B";
@@ -87,9 +87,9 @@ TEST(EncodeJSON, InvalidUTF8_KeepsTheRest) {
 }
 
 TEST(DecodeJSON, ReadsWhatIsWritten) {
-    const auto event = decodeJSON(encodeJSON(sampleEvent()));
+    const auto event = decodeJSON(encodeJSON(fullEvent()));
     ASSERT_TRUE(event);
-    EXPECT_EQ(*event, sampleEvent());
+    EXPECT_EQ(*event, fullEvent());
 }
 
 TEST(DecodeJSON, OtherOrderAndBlanks_AreRead) {
@@ -101,7 +101,7 @@ TEST(DecodeJSON, OtherOrderAndBlanks_AreRead) {
     }
     const auto event = decodeJSON(json);
     ASSERT_TRUE(event);
-    EXPECT_EQ(*event, sampleEvent());
+    EXPECT_EQ(*event, fullEvent());
 }
 
 TEST(DecodeJSON, IdentifierInLowerCase_IsRead) {
@@ -109,7 +109,7 @@ TEST(DecodeJSON, IdentifierInLowerCase_IsRead) {
     members[0].second = R"("01234567-89ab-cdef-fedc-ba9876543210")";
     const auto event = decodeJSON(object(members));
     ASSERT_TRUE(event);
-    EXPECT_EQ(*event, sampleEvent());
+    EXPECT_EQ(*event, fullEvent());
     EXPECT_EQ(encodeJSON(*event), object(sampleMembers()));
 }
 
@@ -119,7 +119,7 @@ TEST(DecodeJSON, ExtraKey_IsIgnoredAndTheIdentifierKept) {
     members.emplace_back("ID", R"("00000000-0000-0000-0000-000000000000")");
     const auto event = decodeJSON(object(members));
     ASSERT_TRUE(event);
-    EXPECT_EQ(*event, sampleEvent());
+    EXPECT_EQ(*event, fullEvent());
 }
 
 TEST(DecodeJSON, AnyMissingKey_Fails) {

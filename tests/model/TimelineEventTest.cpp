@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "model/SampleEvent.h"
+#include "model/FullEvent.h"
 #include "model/TimelineDocument.h"
 #include "model/TimelineParseResult.h"
 #include "support/Records.h"
@@ -82,16 +82,16 @@ TEST(TimelineEventFields, TheList_NamesEveryFieldInItsOrder) {
 class EventText : public testing::TestWithParam<TextField> {};
 
 TEST_P(EventText, OtherText_MakesEventsUnequal) {
-    TimelineEvent other = sampleEvent();
+    TimelineEvent other = fullEvent();
     other.*GetParam().field += "x";
-    EXPECT_NE(other, sampleEvent());
+    EXPECT_NE(other, fullEvent());
     other.*GetParam().field = "";
-    EXPECT_NE(other, sampleEvent());
+    EXPECT_NE(other, fullEvent());
 }
 
 TEST_P(EventText, ComposedAndDecomposed_AreEqual) {
-    TimelineEvent composed = sampleEvent();
-    TimelineEvent decomposed = sampleEvent();
+    TimelineEvent composed = fullEvent();
+    TimelineEvent decomposed = fullEvent();
     composed.*GetParam().field = "caf\u00E9";
     decomposed.*GetParam().field = "cafe\u0301";
     EXPECT_EQ(composed, decomposed);
@@ -100,10 +100,10 @@ TEST_P(EventText, ComposedAndDecomposed_AreEqual) {
 }
 
 TEST_P(EventText, ChangedInACopy_StaysInTheOriginal) {
-    const TimelineEvent original = sampleEvent();
+    const TimelineEvent original = fullEvent();
     TimelineEvent copy = original;
     copy.*GetParam().field = "changed";
-    EXPECT_EQ(original, sampleEvent());
+    EXPECT_EQ(original, fullEvent());
 }
 
 INSTANTIATE_TEST_SUITE_P(Fields, EventText, testing::ValuesIn(textFields), RowName());
@@ -116,30 +116,30 @@ TEST(TimelineEvent, Fresh_HasEmptyTextsAndNoMark) {
 }
 
 TEST(TimelineEvent, OtherMark_MakesEventsUnequal) {
-    TimelineEvent other = sampleEvent();
+    TimelineEvent other = fullEvent();
     other.highlighted = false;
-    EXPECT_NE(other, sampleEvent());
+    EXPECT_NE(other, fullEvent());
 }
 
 TEST(TimelineEvent, AnyOtherByteOfTheIdentifier_MakesEventsUnequal) {
     for (std::size_t i = 0; i < 16; ++i) {
-        TimelineEvent other = sampleEvent();
+        TimelineEvent other = fullEvent();
         other.id.bytes[i] ^= 1;
-        EXPECT_NE(other, sampleEvent());
+        EXPECT_NE(other, fullEvent());
     }
 }
 
 TEST(TimelineEvent, ReadTwiceFromTheSameLine_IsUnequalByItsIdentifier) {
     UUIDGenerator generator;
-    TimelineEvent first = sampleEvent();
-    TimelineEvent second = sampleEvent();
+    TimelineEvent first = fullEvent();
+    TimelineEvent second = fullEvent();
     first.id = generator.next();
     second.id = generator.next();
     EXPECT_NE(first, second);
 }
 
 TEST(TimelineEvent, Copy_IsEqualUntilEitherIsChanged) {
-    TimelineEvent original = sampleEvent();
+    TimelineEvent original = fullEvent();
     TimelineEvent copy = original;
     EXPECT_EQ(copy, original);
     copy.comments = "changed";
@@ -202,13 +202,13 @@ TEST(TimelineDocument, Fresh_IsEmptyAtTheDefaultRate) {
 
 TEST(TimelineDocument, EventTakenOut_ChangesTheDocumentOnlyWhenWrittenBack) {
     TimelineDocument document;
-    document.events = std::vector{sampleEvent(), sampleEvent()};
+    document.events = std::vector{fullEvent(), fullEvent()};
     TimelineEvent taken = document.events[1].record();
     taken.comments = "changed";
-    EXPECT_EQ(document.events[1].comments, sampleEvent().comments);
+    EXPECT_EQ(document.events[1].comments, fullEvent().comments);
     document.events.replace(1, taken);
     EXPECT_EQ(document.events[1].comments, "changed");
-    EXPECT_EQ(document.events[0].record(), sampleEvent());
+    EXPECT_EQ(document.events[0].record(), fullEvent());
 }
 
 TEST(TimelineDocument, CannotBeCopied) {
@@ -217,10 +217,10 @@ TEST(TimelineDocument, CannotBeCopied) {
 }
 
 TEST(TimelineParseResult, CopyIsIndependent) {
-    const TimelineParseResult result{std::vector{sampleEvent()}, 25, "File"};
+    const TimelineParseResult result{std::vector{fullEvent()}, 25, "File"};
     TimelineParseResult copy = result;
     edit(copy.events, 0, [](auto& event) { event.clipName = "changed"; });
-    EXPECT_EQ(result.events[0].record(), sampleEvent());
+    EXPECT_EQ(result.events[0].record(), fullEvent());
 }
 
 }  // namespace

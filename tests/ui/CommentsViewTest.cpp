@@ -16,8 +16,8 @@
 namespace clipvane {
 namespace {
 
-const UUID one = test::sampleEvent(1).id;
-const UUID two = test::sampleEvent(2).id;
+const UUID one = test::numberedEvent(1).id;
+const UUID two = test::numberedEvent(2).id;
 
 TEST(CommentsView, Shown_CountsAsUntouched) {
     CommentsView view;

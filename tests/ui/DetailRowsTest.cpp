@@ -28,7 +28,7 @@ TEST(DetailRows, NothingSelected_ElevenDashesButTheRatesSource) {
 
 TEST(DetailRows, EventSelected_ItsFieldsAndDurations) {
     TimelineDocument document;
-    document.events = test::sampleEvents(2);
+    document.events = test::numberedEvents(2);
     document.fps = 25;
     document.fpsSource = "File";
     EXPECT_EQ(detailTitle(document, 1), "Event 002: Clip 002");
@@ -45,7 +45,7 @@ TEST(DetailRows, EventSelected_ItsFieldsAndDurations) {
 
 TEST(DetailRows, StaleRow_AsWithoutSelection) {
     TimelineDocument document;
-    document.events = test::sampleEvents(2);
+    document.events = test::numberedEvents(2);
     EXPECT_EQ(detailRows(document, 2), detailRows(document, std::nullopt));
     EXPECT_EQ(detailTitle(document, 2), "No event selected");
 }

@@ -35,7 +35,7 @@ class EventTableTest : public testing::Test {
     }
 
     void fill(unsigned count) {
-        document.events = test::sampleEvents(count);
+        document.events = test::numberedEvents(count);
         model.allIsNew();
     }
     void removeRow(int row) {
@@ -398,7 +398,7 @@ TEST_F(EventTableTest, WhileARowGoes_TheOthersCanStillBeRead) {
 TEST_F(EventTableTest, OtherFileOfTheSameLength_StartsAtItsTop) {
     fill(100);
     view.selectRow(60);
-    document.events = test::sampleEvents(200);
+    document.events = test::numberedEvents(200);
     for (int i = 0; i < 100; ++i) document.events.erase(0);
     model.allIsNew();
     EXPECT_EQ(selected(), std::nullopt);

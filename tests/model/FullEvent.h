@@ -8,7 +8,7 @@
 namespace clipvane::test {
 
 /// An event with something of its own in every field.
-inline TimelineEvent sampleEvent() {
+inline TimelineEvent fullEvent() {
     TimelineEvent event;
     event.id = *UUID::parse("01234567-89AB-CDEF-FEDC-BA9876543210");
     event.eventNumber = "007";
