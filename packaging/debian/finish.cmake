@@ -4,10 +4,12 @@
 # What Debian's policy adds to an installed tree: compressed manual pages and changelogs, and the
 # licence under the name that Debian gives it. CPack runs this before it makes the packages.
 
+# SOURCE_DATE_EPOCH if that is set.
 string(TIMESTAMP now "%a, %d %b %Y %H:%M:%S +0000" UTC)
 set(version ${CPACK_PACKAGE_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})
 
 find_program(GZIP gzip REQUIRED)
+find_program(FIND find REQUIRED)
 function(compress file)
     execute_process(COMMAND ${GZIP} --best --no-name ${file} COMMAND_ERROR_IS_FATAL ANY)
 endfunction()
@@ -41,3 +43,10 @@ foreach(component IN LISTS CPACK_COMPONENTS_ALL)
         compress(${document})
     endforeach()
 endforeach()
+
+# A file copied into the tree keeps the time of its checkout, and what was made here has today's.
+if(DEFINED ENV{SOURCE_DATE_EPOCH})
+    execute_process(COMMAND ${FIND} ${CPACK_TEMPORARY_DIRECTORY} -exec
+                            touch --no-dereference --date=@$ENV{SOURCE_DATE_EPOCH} {} +
+                    COMMAND_ERROR_IS_FATAL ANY)
+endif()
