@@ -99,11 +99,11 @@ std::string withFirstLine(std::string_view text, std::size_t start, const std::s
 }
 
 /// What the stamped text may look like, the most wanted first.
-std::vector<std::string> candidates(std::string_view text, const std::string& rate) {
+std::vector<std::string> candidates(std::string_view text, const std::string& rate, bool restamp) {
     const std::string stamp = std::string(stampHead) + rate;
     const Head head = headOf(text);
     std::vector<std::string> results;
-    if (head.stamp) {
+    if (restamp && head.stamp) {
         std::string replaced(text.substr(0, head.stamp->begin));
         replaced += rate;
         replaced += text.substr(head.stamp->end);
@@ -145,7 +145,7 @@ Result<StampedEDL> stamped(std::string_view bytes, double fps, bool restamp) {
                                       decimalOf(fps)));
     }
     const auto before = readEDL(text);
-    for (std::string& candidate : candidates(bytes, decimalOf(fps))) {
+    for (std::string& candidate : candidates(bytes, decimalOf(fps), restamp)) {
         const std::string result = replaceInvalidUTF8(candidate);
         if (detectFPS(result) != fps) continue;
         const auto after = readEDL(result);

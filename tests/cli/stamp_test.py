@@ -27,6 +27,7 @@ class Texts(ProgramTest):
                 ("title behind an event", EVENT + "TITLE: A\n", "* FPS: 25\n" + EVENT + "TITLE: A\n"),
                 ("title behind a line", "x\nTITLE: A\n", "x\nTITLE: A\n* FPS: 25\n"),
                 ("rate of nought above", "fps = 0\nTITLE: A\n", "* FPS: 25\nfps = 0\nTITLE: A\n"),
+                ("stamp of nought", "* FPS: 0\nTITLE: A\n", "* FPS: 25\n* FPS: 0\nTITLE: A\n"),
                 ("not UTF-8", b"TITLE: \xe9\n", b"TITLE: \xe9\n* FPS: 25\n")]:
             with self.subTest(name):
                 self.put("cut.edl", before)
