@@ -135,11 +135,11 @@ class JSONLines(ProgramTest):
 
     def test_around_by_jsonl_is_the_same_for_generated_timelines(self):
         lengths = set()
-        for name, content in timelines(200):
+        for name, content in timelines(60):
             with self.subTest(content=content):
                 done = self.both_ways(self.put(name, content))
                 lengths.add(done.output.count(b"FROM CLIP NAME"))
-        self.assertGreater(len(lengths), 5)
+        self.assertGreater(len(lengths), 3)
 
     def test_picture_track_alone(self):
         self.put("cut.edl", NAMED + EVENT.replace(" V ", " A ") + EVENT.replace("001 ", "003 "))

@@ -100,7 +100,8 @@ class Files(ProgramTest):
         path = self.put("a.edl", NAMED)
         before = path.stat()
         self.assertEqual(self.run_program("stamp", "--fps", "25", "--in-place", "a.edl").status, OK)
-        self.assertEqual(path.stat(), before)
+        after = path.stat()
+        self.assertEqual((after.st_ino, after.st_mtime_ns), (before.st_ino, before.st_mtime_ns))
 
     def test_wrong_use(self):
         self.put("a.edl", EVENT)
@@ -143,7 +144,7 @@ class StampedIsTold(ProgramTest):
                 self.check(path, "23.976")
 
     def test_generated_lists(self):
-        for name, content in timelines(200, seed=2):
+        for name, content in timelines(60, seed=2):
             if name.endswith(".edl"):
                 with self.subTest(content=content):
                     self.check(self.put(name, content), "50")
