@@ -34,17 +34,17 @@ bool mayHoldRareNewline(const char* bytes) {
 
 /// The place of the first newline in `text`, which holds no line feed, or the size of `text`.
 std::size_t findRareNewline(std::string_view text) {
+    constexpr std::size_t blockSize = sizeof(ByteBlock);
     std::size_t position = 0;
-    while (position < text.size()) {
-        const bool isWholeBlock = position + sizeof(ByteBlock) <= text.size();
-        const std::size_t end = isWholeBlock ? position + sizeof(ByteBlock) : text.size();
-        if (!isWholeBlock || mayHoldRareNewline(text.data() + position)) {
-            for (; position < end; ++position) {
-                if (rareNewlineLength(text.substr(position)) > 0) return position;
-            }
+    if (text.size() >= blockSize) {
+        // The last block overlaps the one before it.
+        const std::size_t last = text.size() - blockSize;
+        while (!mayHoldRareNewline(text.data() + position)) {
+            if (position == last) return text.size();
+            position = std::min(position + blockSize, last);
         }
-        position = end;
     }
+    while (position < text.size() && rareNewlineLength(text.substr(position)) == 0) ++position;
     return position;
 }
 

@@ -4,8 +4,10 @@
 #pragma once
 
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <optional>
 #include <span>
 #include <string_view>
@@ -26,8 +28,9 @@ inline constexpr std::size_t twoDigitLength = 11;
 /// once.
 inline std::uint64_t eightCharacters(const char* from) {
     std::uint64_t characters = 0;
-    for (unsigned i = 0; i < 8; ++i) {
-        characters |= std::uint64_t{static_cast<unsigned char>(from[i])} << 8 * i;
+    std::memcpy(&characters, from, sizeof characters);
+    if constexpr (std::endian::native == std::endian::big) {
+        characters = __builtin_bswap64(characters);
     }
     return characters;
 }
