@@ -36,7 +36,7 @@ void EventTableView::paintEvent(QPaintEvent* event) {
     if (rowCount() == 0) return;
     for (int row = firstRowIn(dirty); row <= lastRowIn(dirty); ++row) paintRow(painter, row, dirty);
     for (int column = 0; column < model()->columnCount(); ++column) {
-        const int x = columnViewportPosition(column) + columnWidth(column) - 1;
+        const int x = columnLeft(column) + columnWidth(column) - 1;
         painter.fillRect(QRect(x, dirty.top(), 1, dirty.height()), colours::tableGrid);
     }
 }

@@ -24,7 +24,8 @@ int narrowest(int column) {
 
 }  // namespace
 
-EventTableView::EventTableView(QWidget* parent) : QTableView(parent) {
+EventTableView::EventTableView(QWidget* parent)
+    : QTableView(parent), headerStrip(new QWidget(this)) {
     setAccessibleName("Event Viewer");
     setFrameShape(QFrame::NoFrame);
     setItemDelegate(new EventCell(this));
@@ -39,6 +40,7 @@ EventTableView::EventTableView(QWidget* parent) : QTableView(parent) {
     if (auto* corner = findChild<QAbstractButton*>()) corner->hide();
 
     QHeaderView& header = *horizontalHeader();
+    header.setParent(headerStrip);
     header.setAccessibleName("Event fields");
     header.setFont(systemFont(12, QFont::DemiBold));
     header.setFixedHeight(headerHeight);
@@ -75,6 +77,10 @@ int EventTableView::verticalOffset() const {
     return verticalScrollBar()->value();
 }
 
+int EventTableView::horizontalOffset() const {
+    return horizontalScrollBar()->value();
+}
+
 HighlightRowView EventTableView::rowViewForRow(int row) const {
     HighlightRowView view{.isMarked = false, .isAlternate = row % 2 != 0};
     if (row >= 0 && row < rowCount()) {
@@ -87,14 +93,18 @@ HighlightRowView EventTableView::rowViewForRow(int row) const {
 
 QRect EventTableView::visualRect(const QModelIndex& index) const {
     if (!index.isValid() || index.model() != model()) return {};
-    return {columnViewportPosition(index.column()), index.row() * rowHeight - verticalOffset(),
+    return {columnLeft(index.column()), index.row() * rowHeight - verticalOffset(),
             columnWidth(index.column()), rowHeight};
+}
+
+int EventTableView::columnLeft(int column) const {
+    return horizontalHeader()->sectionPosition(column) - horizontalOffset();
 }
 
 QModelIndex EventTableView::indexAt(const QPoint& point) const {
     if (model() == nullptr) return {};
     const int y = point.y() + verticalOffset();
-    const int column = columnAt(point.x());
+    const int column = horizontalHeader()->logicalIndexAt(point.x() + horizontalOffset());
     return y < 0 || column < 0 ? QModelIndex() : model()->index(y / rowHeight, column);
 }
 
@@ -153,7 +163,7 @@ void EventTableView::updateGeometries() {
     QHeaderView& header = *horizontalHeader();
     setViewportMargins(0, headerHeight, 0, 0);
     const QRect area = viewport()->geometry();
-    header.setGeometry(area.left(), area.top() - headerHeight, area.width(), headerHeight);
+    headerStrip->setGeometry(area.left(), area.top() - headerHeight, area.width(), headerHeight);
     fitLastColumn();
 
     QScrollBar& vertical = *verticalScrollBar();
@@ -164,13 +174,20 @@ void EventTableView::updateGeometries() {
     horizontal.setPageStep(area.width());
     horizontal.setSingleStep(rowHeight);
     horizontal.setRange(0, std::max(header.length() - area.width(), 0));
-    header.setOffset(horizontal.value());
+    header.setGeometry(-horizontal.value(), 0, std::max(header.length(), area.width()),
+                       headerHeight);
     QAbstractItemView::updateGeometries();
+}
+
+void EventTableView::scrollContentsBy(int dx, int dy) {
+    if (dx != 0) horizontalHeader()->move(-horizontalOffset(), 0);
+    viewport()->scroll(dx, dy);
 }
 
 // Columns
 
 void EventTableView::keepMinimumWidth(int column, int width) {
+    viewport()->update();
     if (fitting) return;
     const int kept = std::max(width, narrowest(column));
     if (column == model()->columnCount() - 1) chosenLastWidth = kept;

@@ -35,6 +35,8 @@ class EventTableView : public QTableView {
   protected:
     void updateGeometries() override;
     int verticalOffset() const override;
+    int horizontalOffset() const override;
+    void scrollContentsBy(int dx, int dy) override;
     int sizeHintForColumn(int column) const override;
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags command) override;
@@ -49,12 +51,16 @@ class EventTableView : public QTableView {
     int rowCount() const;
     int firstRowIn(const QRect& area) const;
     int lastRowIn(const QRect& area) const;
+    int columnLeft(int column) const;
     void showColumn(int column);
     int stepColumn(int column, int step);
     void keepMinimumWidth(int column, int width);
     void fitLastColumn();
     void paintRow(QPainter& painter, int row, const QRect& dirty) const;
 
+    /// Shows as much of the header as there is room for. The header is as wide as all its columns
+    /// and moves beneath, for assistive technology takes its place for that of the first column.
+    QWidget* headerStrip;
     QFocusFrame* focusFrame = nullptr;  ///< around the list and its header
     QStringListModel noRows;            ///< the vertical header's model
     int chosenLastWidth = 0;            ///< that the user gave the last column

@@ -5,6 +5,7 @@
 
 #include <QAbstractItemView>
 #include <QAccessible>
+#include <QScrollBar>
 #include <set>
 
 #include "ui/WindowUnderTest.h"
@@ -151,6 +152,23 @@ TEST_F(AccessibilityTest, Table_TellsItsHeadersAndCells) {
     EXPECT_EQ(cell->rect().height(), 48);
     EXPECT_EQ(table().selectedRows(), QList<int>{0});
     EXPECT_NE(named("Source In", QAccessible::ColumnHeader), nullptr);
+}
+
+TEST_F(AccessibilityTest, ScrolledSideways_HeadersAreWhereTheirCellsAre) {
+    open(writeEDL("cut.edl", 1));
+    auto* bar = find<EventTableView>()->horizontalScrollBar();
+    ASSERT_GT(bar->maximum(), 50);
+    for (const int offset : {0, 50}) {
+        bar->setValue(offset);
+        for (const char* title : {"Source In", "Source Out"}) {
+            const QRect header = named(title, QAccessible::ColumnHeader)->rect();
+            const int column = title == QString("Source In") ? 3 : 4;
+            const QRect cell = table().cellAt(0, column)->rect();
+            EXPECT_EQ(header.left(), cell.left()) << title << ' ' << offset;
+            EXPECT_EQ(header.width(), cell.width());
+            EXPECT_EQ(header.bottom() + 1, cell.top());
+        }
+    }
 }
 
 TEST_F(AccessibilityTest, EmptyCell_StillHasAName) {

@@ -327,6 +327,29 @@ TEST_F(EventTableTest, ColumnWiderThanTheView_IsNoTrapForTheKeys) {
     EXPECT_EQ(view.horizontalScrollBar()->value(), 0);
 }
 
+TEST_F(EventTableTest, ScrolledSideways_HeaderAndCellsAndLinesStayTogether) {
+    fill(3);
+    QScrollBar& bar = *view.horizontalScrollBar();
+    for (const int offset : {0, 100, bar.maximum()}) {
+        bar.setValue(offset);
+        const QHeaderView& header = *view.horizontalHeader();
+        const QPoint corner = header.mapTo(&view, QPoint());
+        EXPECT_EQ(corner.x(), -offset);
+        const QImage image = view.grab().toImage();
+        for (const int column : {2, 3, 4}) {
+            const int left = header.sectionPosition(column) - offset;
+            EXPECT_EQ(view.visualRect(model.index(0, column)).left(), left);
+            EXPECT_EQ(view.indexAt({left + 1, 5}).column(), column);
+            EXPECT_EQ(view.indexAt({left - 1, 5}).column(), column - 1);
+            // The divider of the header stands over the line between the cells.
+            EXPECT_NE(image.pixelColor(left - 1, 16), image.pixelColor(left - 3, 16)) << left;
+            EXPECT_NE(image.pixelColor(left - 1, 500), image.pixelColor(left - 3, 500)) << left;
+        }
+        EXPECT_NE(image.pixelColor(view.viewport()->width() + 4, 16), colours::tableHeader)
+            << "over the scroll bar there is no header";
+    }
+}
+
 TEST_F(EventTableTest, HeaderEdgeDoubleClicked_ColumnFitsItsContents) {
     fill(3);
     test::edit(document.events, 1, [&](auto& event) { event.clipName = std::string(60, 'W'); });
