@@ -59,6 +59,16 @@ void DetailStackView::insertDetailRows(const std::vector<DetailRow>& rows) {
     layout();
 }
 
+QString DetailStackView::elidedTexts() const {
+    QStringList texts;
+    if (detailTitle->isElided()) texts << displayLine(detailTitle->text());
+    for (const DetailRowView* view : views) {
+        if (!view->valueLabel->isElided()) continue;
+        texts << view->keyLabel->text() + ": " + displayLine(view->valueLabel->text());
+    }
+    return texts.join('\n');
+}
+
 void DetailStackView::layout() {
     const double inner = detailStackLayout(width(), 0, 0).title.width;
     const int titleHeight = detailTitle->heightForWidth(static_cast<int>(inner));

@@ -25,6 +25,8 @@ class DetailStackView : public QWidget {
     void setTitle(const QString& text);
     /// Puts `rows` between the title and the comments block, in place of those before.
     void insertDetailRows(const std::vector<DetailRow>& rows);
+    /// The title and the rows that are not shown whole, a line each.
+    QString elidedTexts() const;
 
   protected:
     void resizeEvent(QResizeEvent* event) override;

@@ -18,6 +18,8 @@
 namespace clipvane {
 namespace {
 
+constexpr int widthStep = 20;  ///< by which a key widens a column, in logical pixels
+
 int narrowest(int column) {
     return eventColumns()[static_cast<std::size_t>(column)].width;
 }
@@ -197,6 +199,11 @@ void EventTableView::keepMinimumWidth(int column, int width) {
     updateGeometries();
 }
 
+void EventTableView::changeWidth(int column, int change) {
+    setColumnWidth(column, columnWidth(column) + change);
+    showColumn(column);
+}
+
 void EventTableView::fitLastColumn() {
     if (fitting || model() == nullptr) return;
     const int last = model()->columnCount() - 1;
@@ -286,6 +293,10 @@ void EventTableView::mousePressEvent(QMouseEvent* event) {
 void EventTableView::keyPressEvent(QKeyEvent* event) {
     // The toolkit would put the current cell on the clipboard, over what the user has there.
     if (event->matches(QKeySequence::Copy)) return;
+    const bool widens = event->key() == Qt::Key_Right;
+    if (event->modifiers().testFlag(Qt::AltModifier) && (widens || event->key() == Qt::Key_Left)) {
+        return changeWidth(std::max(currentIndex().column(), 0), widens ? widthStep : -widthStep);
+    }
     QTableView::keyPressEvent(event);
 }
 

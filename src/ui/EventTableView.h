@@ -54,6 +54,7 @@ class EventTableView : public QTableView {
     int columnLeft(int column) const;
     void showColumn(int column);
     int stepColumn(int column, int step);
+    void changeWidth(int column, int change);
     void keepMinimumWidth(int column, int width);
     void fitLastColumn();
     void paintRow(QPainter& painter, int row, const QRect& dirty) const;

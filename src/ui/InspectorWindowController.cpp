@@ -5,6 +5,8 @@
 
 #include <QItemSelectionModel>
 #include <QScrollBar>
+#include <QShortcut>
+#include <QToolTip>
 
 #include "ui/AppLog.h"
 #include "ui/Colours.h"
@@ -20,6 +22,7 @@
 #include "ui/MainLayoutView.h"
 #include "ui/PanelView.h"
 #include "ui/StatusLabel.h"
+#include "ui/Text.h"
 #include "ui/TextLabel.h"
 #include "ui/ToolbarView.h"
 
@@ -87,9 +90,17 @@ PanelView* InspectorWindowController::makeDetailPanel() {
     auto* scrollView = new DetailScrollView(detailStack, comments);
     // The scroll bar stands in the panel's margin: the whole content width is the stack's.
     const int bar = scrollView->verticalScrollBar()->sizeHint().width();
+    auto* wholeTexts = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_F1), detailStack);
+    QObject::connect(wholeTexts, &QShortcut::activated, detailStack, [this] { showWholeTexts(); });
     auto* panel = new PanelView("Selected Event");
     panel->addContent(scrollView, QMargins(0, 0, -bar, 0));
     return panel;
+}
+
+void InspectorWindowController::showWholeTexts() {
+    const QString texts = detailStack->elidedTexts();
+    if (texts.isEmpty()) return;
+    QToolTip::showText(detailStack->mapToGlobal(QPoint()), toolTipText(texts), detailStack);
 }
 
 QWidget* InspectorWindowController::makeToolbar() {

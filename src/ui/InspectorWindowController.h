@@ -45,6 +45,7 @@ class InspectorWindowController : public DocumentCommands {
     PanelView* makeEventPanel();
     PanelView* makeDetailPanel();
     void tableViewSelectionDidChange();
+    void showWholeTexts();
     void showEvent(std::optional<std::size_t> row);
     void refreshDetails();
     void fitScreen();

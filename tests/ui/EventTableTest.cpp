@@ -327,6 +327,19 @@ TEST_F(EventTableTest, ColumnWiderThanTheView_IsNoTrapForTheKeys) {
     EXPECT_EQ(view.horizontalScrollBar()->value(), 0);
 }
 
+TEST_F(EventTableTest, AltLeftAndRight_NarrowAndWidenTheCurrentColumn) {
+    fill(3);
+    view.selectRow(1);
+    press(Qt::Key_Right);
+    press(Qt::Key_Right, Qt::AltModifier);
+    press(Qt::Key_Right, Qt::AltModifier);
+    EXPECT_EQ(view.columnWidth(1), 280 + 40);
+    EXPECT_EQ(selected(), 1U);
+    for (int i = 0; i < 9; ++i) press(Qt::Key_Left, Qt::AltModifier);
+    EXPECT_EQ(view.columnWidth(1), 280) << "no narrower than at first";
+    EXPECT_EQ(view.currentIndex().column(), 1);
+}
+
 TEST_F(EventTableTest, ScrolledSideways_HeaderAndCellsAndLinesStayTogether) {
     fill(3);
     QScrollBar& bar = *view.horizontalScrollBar();

@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 
 #include <QScrollBar>
+#include <QToolTip>
 
 #include "ui/Colours.h"
 #include "ui/PanelView.h"
@@ -14,6 +15,11 @@ namespace {
 
 class MainWindowTest : public test::WindowTest {
   protected:
+    /// Only an active window shows rings and serves shortcuts.
+    bool activate() {
+        controller.window()->activateWindow();
+        return QTest::qWaitForWindowActive(controller.window());
+    }
     /// What has the focus now and after each of `count` - 1 Tabs; one more follows.
     QStringList tabThrough(int count) {
         QStringList order;
@@ -137,6 +143,31 @@ TEST_F(MainWindowTest, Toolbar_ControlsInOrderAllAlike) {
     EXPECT_EQ(x(popup) - (x(name) + name->width()), 12);
     EXPECT_EQ(x(name) - (x(button("Open Timeline")) + button("Open Timeline")->width()), 8);
     EXPECT_EQ(x(button("Remove Event")) - (x(popup) + popup->width()), 8);
+}
+
+TEST_F(MainWindowTest, CtrlF1_ShowsWhatIsNotShownWhole) {
+    const std::string name = "A001_C001_" + std::string(60, 'x') + "_take_07";
+    test::writeContent(folder / "long.edl",
+                       "001  R1 V C 01:00:00:00 01:00:04:00 02:00:00:00 02:00:04:00\n"
+                       "* FROM CLIP NAME: " +
+                           name + "\n");
+    ASSERT_TRUE(activate());
+    QToolTip::hideText();
+    QTest::keyClick(controller.window(), Qt::Key_F1, Qt::ControlModifier);
+    EXPECT_EQ(QToolTip::text(), "") << "all is shown whole";
+    open((folder / "long.edl").string());
+    ASSERT_TRUE(activate());
+    for (QWidget* focused : {static_cast<QWidget*>(find<EventTableView>()),
+                             static_cast<QWidget*>(find<CommentsView>())}) {
+        QToolTip::hideText();
+        focused->setFocus();
+        QTest::keyClick(focused, Qt::Key_F1, Qt::ControlModifier);
+        const QString tip = QToolTip::text().remove(QChar(0x200b));
+        EXPECT_TRUE(tip.contains("Clip Name: " + QString::fromStdString(name)))
+            << tip.toStdString();
+        EXPECT_FALSE(tip.contains("Reel ID"));
+    }
+    QToolTip::hideText();
 }
 
 TEST_F(MainWindowTest, Narrow_OnlyTheSpaceAfterTheNameShrinks) {
