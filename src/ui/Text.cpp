@@ -3,6 +3,8 @@
 
 #include "ui/Text.h"
 
+#include <QFontMetrics>
+#include <QToolTip>
 #include <algorithm>
 
 namespace clipvane {
@@ -10,6 +12,9 @@ namespace {
 
 constexpr qsizetype displayLimit = 1024;
 constexpr qsizetype toolTipLimit = 4096;
+constexpr int toolTipWidth = 420;  ///< of a text that does not fit on one such line
+constexpr int longestWord = 30;    ///< without a place to break, in a tool tip
+constexpr char16_t zeroWidthSpace = 0x200b;
 
 /// The two ends of `text`, `limit` characters in all, none of them half of a pair.
 QString shortened(const QString& text, qsizetype limit) {
@@ -26,6 +31,20 @@ bool breaksLine(QChar c) {
            c == QChar::LineSeparator || c == QChar::ParagraphSeparator;
 }
 
+/// `text` with places to break in its long words: names of clips have no others.
+QString breakable(const QString& text) {
+    QString result;
+    int length = 0;  // of the word so far
+    for (const QChar c : text) {
+        if (length >= longestWord && !c.isLowSurrogate() && !c.isMark()) {
+            result += QChar(zeroWidthSpace);
+        }
+        result += c;
+        length = c.isSpace() ? 0 : length + 1;
+    }
+    return result;
+}
+
 }  // namespace
 
 QString displayLine(const QString& text) {
@@ -35,8 +54,12 @@ QString displayLine(const QString& text) {
 }
 
 QString toolTipText(const QString& text) {
-    return "<p style='white-space:pre-wrap'>" + shortened(text, toolTipLimit).toHtmlEscaped() +
-           "</p>";
+    const QString shown = shortened(text, toolTipLimit);
+    const QString style = "<p style='white-space:pre-wrap'>%1</p>";
+    const QSize size = QFontMetrics(QToolTip::font()).size(0, shown);
+    if (size.width() <= toolTipWidth) return style.arg(shown.toHtmlEscaped());
+    return QString("<table width='%1'><tr><td>").arg(toolTipWidth) +
+           style.arg(breakable(shown).toHtmlEscaped()) + "</td></tr></table>";
 }
 
 }  // namespace clipvane

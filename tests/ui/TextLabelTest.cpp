@@ -7,7 +7,9 @@
 
 #include <QApplication>
 #include <QHelpEvent>
+#include <QTest>
 #include <QToolTip>
+#include <algorithm>
 
 #include "ui/Fonts.h"
 
@@ -39,6 +41,24 @@ TEST_F(TextLabelTest, TextTooLong_WholeTextAsToolTipEscaped) {
     label.resize(100, 30);
     EXPECT_TRUE(label.isElided());
     EXPECT_TRUE(toolTipOf(label).contains("&lt;b&gt;xxx"));
+}
+
+TEST_F(TextLabelTest, LongToolTip_IsAboutALineWide) {
+    for (const QString& text :
+         {QString("several words of a text ").repeated(40), QString("W").repeated(400)}) {
+        label.setText(text);
+        label.resize(100, 30);
+        EXPECT_NE(toolTipOf(label), "");
+        const auto tips = QApplication::topLevelWidgets();
+        const auto tip = std::find_if(tips.begin(), tips.end(), [](const QWidget* widget) {
+            return widget->isVisible() && widget->windowType() == Qt::ToolTip;
+        });
+        ASSERT_NE(tip, tips.end());
+        EXPECT_GT((*tip)->width(), 400);
+        EXPECT_LT((*tip)->width(), 470);
+        QToolTip::hideText();
+        QTest::qWait(1);
+    }
 }
 
 TEST_F(TextLabelTest, AtMostTwoLines_TheRestIsCutOff) {

@@ -30,5 +30,13 @@ TEST(ToolTipText, Markup_IsShownAsText) {
     EXPECT_TRUE(toolTipText("<b>x</b>&").contains("&lt;b&gt;x&lt;/b&gt;&amp;"));
 }
 
+TEST(ToolTipText, LongerThanALine_IsALineWideAndCanBreakInNames) {
+    EXPECT_FALSE(toolTipText("00:00:04:00 (100 frames)").contains("width="));
+    EXPECT_TRUE(toolTipText(QString("word ").repeated(60)).contains("<table width='420'>"));
+    const QString name = toolTipText(QString("W").repeated(90));
+    EXPECT_EQ(name.count(QChar(0x200b)), 60);
+    EXPECT_TRUE(toolTipText(QString::fromUtf8("😀").repeated(200)).isValidUtf16());
+}
+
 }  // namespace
 }  // namespace clipvane
