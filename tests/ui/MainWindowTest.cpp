@@ -145,6 +145,69 @@ TEST_F(MainWindowTest, Toolbar_ControlsInOrderAllAlike) {
     EXPECT_EQ(x(button("Remove Event")) - (x(popup) + popup->width()), 8);
 }
 
+TEST_F(MainWindowTest, Toolbar_IsCentredVertically) {
+    QList<QWidget*> parts{label("Clipvane"), label("Global FPS"), find<FrameRatePopup>()};
+    for (const char* title : {"Open Timeline", "Remove Event", "Help"}) parts << button(title);
+    for (const QWidget* part : parts) {
+        const int top = part->mapTo(controller.window(), QPoint()).y() - 16;
+        EXPECT_NEAR(top + part->height() / 2.0, 42 / 2.0, 0.5) << part->height();
+    }
+}
+
+TEST_F(MainWindowTest, Panels_HaveCornersOfRadius8) {
+    const QImage image = controller.window()->grab().toImage();
+    for (const QWidget* panel :
+         {find<MainLayoutView>()->leftPanel, find<MainLayoutView>()->rightPanel}) {
+        const QPoint corner = panel->mapTo(controller.window(), QPoint());
+        const auto at = [&](int inward) {
+            return image.pixelColor(corner + QPoint(inward, inward));
+        };
+        // Along the diagonal: outside; half the edge, which a smaller radius would show whole;
+        // inside, where a larger one would still show its edge.
+        EXPECT_EQ(at(1), colours::window);
+        EXPECT_NE(at(2), colours::window);
+        EXPECT_NE(at(2), colours::panelEdge);
+        EXPECT_EQ(at(3), colours::panel);
+    }
+}
+
+TEST_F(MainWindowTest, TextOfAnEmptyList_LeavesAMarginOf20) {
+    const auto* panel = dynamic_cast<PanelView*>(find<MainLayoutView>()->leftPanel);
+    EXPECT_EQ(label("Open a timeline file to view events")->geometry(),
+              panel->contentRect().adjusted(20, 20, -20, -20));
+    controller.window()->resize(1500, 900);
+    EXPECT_EQ(label("Open a timeline file to view events")->geometry(),
+              panel->contentRect().adjusted(20, 20, -20, -20));
+}
+
+TEST_F(MainWindowTest, TabbedTo_EachControlHasItsRingAndNoOther) {
+    open(writeEDL("cut.edl", 1));
+    QWidget& window = *controller.window();
+    ASSERT_TRUE(activate());
+    button("Help")->setFocus(Qt::TabFocusReason);
+    QList<QWidget*> controls;
+    for (int i = 0; i < 9; ++i) {
+        QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+        controls << window.focusWidget();
+    }
+    // The ring's upper side, which a list has a little outside.
+    const auto isRinged = [&window](const QWidget* control, const QImage& image) {
+        const QPoint top = control->mapTo(&window, QPoint(control->width() / 2, 0));
+        for (int y = -4; y < 4; ++y) {
+            if (image.pixelColor(top + QPoint(0, y)) == colours::focusRing) return true;
+        }
+        return false;
+    };
+    for (int i = 0; i < 9; ++i) {
+        QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+        const QImage image = window.grab().toImage();
+        for (const QWidget* control : controls) {
+            EXPECT_EQ(isRinged(control, image), control == window.focusWidget())
+                << control->accessibleName().toStdString() << ' ' << i;
+        }
+    }
+}
+
 TEST_F(MainWindowTest, CtrlF1_ShowsWhatIsNotShownWhole) {
     const std::string name = "A001_C001_" + std::string(60, 'x') + "_take_07";
     test::writeContent(folder / "long.edl",

@@ -61,6 +61,25 @@ TEST_F(TextLabelTest, LongToolTip_IsAboutALineWide) {
     }
 }
 
+TEST_F(TextLabelTest, MiddleElided_BothEndsShow) {
+    const auto grabbed = [this](const QString& text) {
+        label.setText(text);
+        label.resize(200, 30);
+        label.setElideMode(Qt::ElideMiddle);
+        return label.grab().toImage();
+    };
+    const auto leftOf = [](const QImage& image) { return image.copy(0, 0, 60, 30); };
+    const auto rightOf = [](const QImage& image) { return image.copy(140, 0, 60, 30); };
+    const QImage shown = grabbed("begin" + QString(60, 'x') + "end");
+    const QImage otherMiddle =
+        grabbed("begin" + QString(40, 'x') + "yy" + QString(40, 'x') + "end");
+    EXPECT_EQ(leftOf(shown), leftOf(otherMiddle));
+    EXPECT_EQ(rightOf(shown), rightOf(otherMiddle));
+    const QImage otherEnd = grabbed("begin" + QString(60, 'x') + "and");
+    EXPECT_NE(rightOf(shown), rightOf(otherEnd));
+    EXPECT_NE(leftOf(shown), leftOf(grabbed("begun" + QString(60, 'x') + "end")));
+}
+
 TEST_F(TextLabelTest, AtMostTwoLines_TheRestIsCutOff) {
     label.setMaximumLines(2);
     const int line = label.fontMetrics().lineSpacing();
