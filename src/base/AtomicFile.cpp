@@ -7,52 +7,22 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdio>
 #include <optional>
 
+#include "base/Links.h"
 #include "base/UUID.h"
 
 namespace clipvane {
 namespace {
 
-constexpr std::size_t largestWrite = 0x7ffff000;  // what the kernel moves in one call
 constexpr std::size_t copiedAtOnce = 0x10000;
-constexpr int mostLinks = 40;         // the kernel's own limit in following links
 constexpr int mostTries = 10;         // at a place that others take and leave all the time
 constexpr mode_t newFileMode = 0666;  // less the process's file mode mask
 constexpr mode_t ownerOnly = 0600;
 constexpr mode_t permissionBits = 07777;
-
-/// Zero or an errno value.
-int lookAt(const std::filesystem::path& path, struct stat& status) {
-    return uninterrupted([&] { return ::lstat(path.c_str(), &status); }) == 0 ? 0 : errno;
-}
-
-/// Zero or an errno value.
-int readLink(const std::filesystem::path& link, std::filesystem::path& target) {
-    std::error_code error;
-    do {
-        target = std::filesystem::read_symlink(link, error);
-    } while (error.value() == EINTR);
-    return error.value();
-}
-
-/// The place that `path` leads to through its links; a dangling link leads to a place without a
-/// file. Zero or an errno value.
-int followLinks(std::filesystem::path& path) {
-    for (int followed = 0; followed <= mostLinks; ++followed) {
-        struct stat status {};
-        if (const int code = lookAt(path, status)) return code == ENOENT ? 0 : code;
-        if (!S_ISLNK(status.st_mode)) return 0;
-        std::filesystem::path target;
-        if (const int code = readLink(path, target)) return code;
-        path = path.parent_path() / target;  // an absolute target replaces the folder
-    }
-    return ELOOP;
-}
 
 /// The regular file at `place`; nothing when nothing is there. Otherwise the error for
 /// `destination`, since nothing but a regular file is ever replaced.
@@ -97,8 +67,8 @@ void keepPermissions(int file, const struct stat& replaced) {
 /// Zero or an errno value.
 int writeAll(int file, std::string_view bytes) {
     while (!bytes.empty()) {
-        const ssize_t put = uninterrupted(
-            [&] { return ::write(file, bytes.data(), std::min(bytes.size(), largestWrite)); });
+        const ssize_t put =
+            uninterrupted([&] { return ::write(file, bytes.data(), bytes.size()); });
         if (put < 0) return errno;
         if (put == 0) return EIO;  // nothing was taken, and no reason given: no use in going on
         bytes.remove_prefix(static_cast<std::size_t>(put));

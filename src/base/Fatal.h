@@ -15,7 +15,8 @@ using FatalHandler = void (*)(std::string_view reason);
 /// Writes "clipvane: " and the reason to standard error, then aborts. Nothing recovers from it.
 [[noreturn]] void fatal(std::string_view reason);
 
-/// Installs a handler for tests and fuzzers, or removes it with nullptr. Returns the earlier one.
+/// Installs a handler, or removes it with nullptr; returns the earlier one. For programs that use
+/// the library and must survive hostile files.
 FatalHandler setFatalHandler(FatalHandler handler);
 
 }  // namespace clipvane

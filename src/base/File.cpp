@@ -18,9 +18,6 @@
 namespace clipvane {
 namespace {
 
-/// The kernel moves at most this much in one call.
-constexpr std::size_t largestRead = 0x7ffff000;
-
 /// Bytes read so far, in storage that is not cleared first: it is all about to be written.
 class GrowingBytes {
   public:
@@ -52,8 +49,8 @@ class GrowingBytes {
 int readToEnd(int descriptor, GrowingBytes& bytes) {
     while (true) {
         if (bytes.freeCount() == 0) bytes.grow();
-        const std::size_t count = std::min(bytes.freeCount(), largestRead);
-        const ssize_t got = uninterrupted([&] { return ::read(descriptor, bytes.free(), count); });
+        const ssize_t got =
+            uninterrupted([&] { return ::read(descriptor, bytes.free(), bytes.freeCount()); });
         if (got < 0) return errno;
         if (got == 0) return 0;
         bytes.use(static_cast<std::size_t>(got));

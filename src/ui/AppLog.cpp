@@ -5,7 +5,7 @@
 
 #include <chrono>
 
-#include "ui/LogFile.h"
+#include "base/LogFile.h"
 
 namespace clipvane {
 

@@ -9,7 +9,7 @@
 
 #include "commands/DocumentCommands.h"
 #include "memory/FailingMemory.h"
-#include "ui/LogFile.h"
+#include "base/LogFile.h"
 
 namespace clipvane::test {
 

@@ -1,25 +1,23 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
-#include "ui/LogFile.h"
+#include "base/LogFile.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <cerrno>
 #include <new>
-#include <system_error>
 
 #include "base/Descriptor.h"
+#include "base/Links.h"
 #include "base/Number.h"
 #include "base/UTF8.h"
 
 namespace clipvane {
 namespace {
 
-constexpr int mostLinks = 40;         // the kernel's own limit in following links
-constexpr mode_t newFileMode = 0666;  // less the process's file mode mask
+constexpr mode_t newFileMode = 0666;                     // less the process's file mode mask
 constexpr int openFlags = O_WRONLY | O_APPEND | O_CREAT  // one call, so that nothing can slip in
                           | O_NOFOLLOW                   // a link that is not the user's own
                           | O_NONBLOCK                   // a FIFO without a reader
@@ -29,31 +27,15 @@ bool isOwn(const struct stat& status) {
     return status.st_uid == ::geteuid();
 }
 
-/// The place that `path` leads to through the user's own links. It holds a regular file or nothing
-/// yet; no place when anything else is met.
-std::optional<std::filesystem::path> ownPlace(std::filesystem::path path) {
-    for (int followed = 0; followed <= mostLinks; ++followed) {
-        struct stat status {};
-        if (uninterrupted([&] { return ::lstat(path.c_str(), &status); }) != 0) {
-            return errno == ENOENT ? std::optional(path) : std::nullopt;
-        }
-        if (!isOwn(status)) return std::nullopt;
-        if (S_ISREG(status.st_mode)) return path;
-        if (!S_ISLNK(status.st_mode)) return std::nullopt;
-        std::error_code error;
-        const std::filesystem::path target = std::filesystem::read_symlink(path, error);
-        if (error) return std::nullopt;
-        path = path.parent_path() / target;  // an absolute target replaces the folder
-    }
-    return std::nullopt;
+bool mayLeadToLog(const struct stat& status) {
+    return isOwn(status) && (S_ISREG(status.st_mode) || S_ISLNK(status.st_mode));
 }
 
 /// Opens the log for appending. A log that exists but is read-only stays as it is: what may not be
 /// opened for appending may not be replaced either.
-Descriptor openLog(const std::filesystem::path& path) {
-    const auto place = ownPlace(path);
-    if (!place) return {};
-    Descriptor file = openFile(place->c_str(), openFlags, newFileMode);
+Descriptor openLog(std::filesystem::path place) {
+    if (followLinks(place, mayLeadToLog) != 0) return {};
+    Descriptor file = openFile(place.c_str(), openFlags, newFileMode);
     // What lies there may have changed since it was looked at.
     struct stat status {};
     if (!file.isOpen()) return {};
