@@ -7,9 +7,9 @@
 #include <string>
 #include <string_view>
 
+#include "base/LogFile.h"
 #include "commands/DocumentCommands.h"
 #include "memory/FailingMemory.h"
-#include "base/LogFile.h"
 
 namespace clipvane::test {
 
