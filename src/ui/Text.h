@@ -23,8 +23,8 @@ inline std::string toUTF8(const QString& text) {
 /// long text only its two ends stay, since measuring a megabyte takes a fifth of a second.
 QString displayLine(const QString& text);
 
-/// `text` as a tool tip, which shows it as it stands, markup and all, in lines of 420 logical pixels
-/// if it is longer than one.
+/// `text` as a tool tip, which shows it as it stands, markup and all, in lines of 420 logical
+/// pixels if it is longer than one.
 QString toolTipText(const QString& text);
 
 }  // namespace clipvane
