@@ -35,7 +35,7 @@ void requireSameEvents(std::string_view original, std::string_view text, bool sh
     const std::size_t added = showsHiddenEvent ? 1 : 0;
     require(after.size() == before.size() + added, "no event comes or goes");
     for (std::size_t i = 0; i < before.size(); ++i) {
-        require(test::sameFields(before[i], after[i + added]), "the events stay");
+        require(test::sameFields(before[i].record(), after[i + added].record()), "the events stay");
     }
 }
 
