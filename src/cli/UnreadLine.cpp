@@ -82,7 +82,7 @@ std::string columnFault(const std::vector<std::string_view>& columns) {
     if (columns.size() > 5 || (columns.size() == 5 && !isCount(columns.back()))) {
         return "a reel or an edit type of two words";
     }
-    return "its timecodes are not parted from what stands beside them";
+    return "its timecodes are not separated from what stands beside them";
 }
 
 /// Number, reel, track, edit type and four counts of frames.
@@ -102,7 +102,10 @@ std::string whyUnread(std::string_view line) {
     for (const WideTimecode& timecode : timecodes) {
         if (timecode.separators == ";") return "a drop-frame separator";
         if (!timecode.separators.empty()) {
-            return "\"" + std::string(timecode.separators) + "\" instead of \":\" in a timecode";
+            std::string reason = "\"";
+            reason += timecode.separators;
+            reason += "\" instead of \":\" in a timecode";
+            return reason;
         }
         if (timecode.hasSingleDigit) return "a field of one digit in a timecode";
     }
