@@ -69,7 +69,8 @@ TEST(EncodeJSON, FreshEvent_WritesEmptyTextsRatherThanNothing) {
 
 TEST(EncodeJSON, SpecialCharacters_AreEscaped) {
     TimelineEvent event;
-    event.comments = std::string("\"\\/\b\f\n\r\t\0\x1F\x7F", 11) + "\u2028😀";
+    event.comments.assign("\"\\/\b\f\n\r\t\0\x1F\x7F", 11);
+    event.comments += "\u2028😀";
     EXPECT_NE(encodeJSON(event).find(R"("comments":"\"\\/\b\f\n\r\t\u0000\u001f)"
                                      "\x7F\u2028😀\""),
               std::string::npos);
