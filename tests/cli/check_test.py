@@ -90,7 +90,7 @@ class Lines(Checked):
                 ("x01 AX V C " + good, "it begins with no event number"),
                 (good, "it begins with no event number"),
                 ("001 AX V " + good, "a column is missing before its timecodes"),
-                ("001 AX V C " + good.replace(" 01", ",01"), "its timecodes are not parted"),
+                ("001 AX V C " + good.replace(" 01", ",01"), "its timecodes are not separated"),
                 ("001 AX V C 0 125 90000 90125", "frame counts instead of timecodes")]:
             with self.subTest(line=line):
                 [(kind, number, text)] = self.suspicious("a.edl", NAMED + line + "\n")
