@@ -15,7 +15,7 @@ CommentsBlockView::CommentsBlockView(CommentsView* textView, QWidget* parent)
       titleLabel(
           new TextLabel("Comments", systemFont(15, QFont::DemiBold), colours::secondaryText, this)),
       textView(textView) {
-    resize(sizeHint());
+    resize(CommentsBlockView::sizeHint());
     textView->setParent(this);
     textView->show();
     titleLabel->setBuddy(textView);
