@@ -9,6 +9,7 @@
 #include "cli/Check.h"
 #include "cli/CheckFormat.h"
 #include "cli/Commands.h"
+#include "cli/Counted.h"
 #include "cli/Output.h"
 #include "cli/ReadingOptions.h"
 #include "cli/TimelineReading.h"
@@ -116,9 +117,9 @@ class CheckCommand : public Command {
     }
 
     std::string sum() const {
-        return std::to_string(totals.timelines) + " timelines, " + std::to_string(totals.events) +
-               " events, " + std::to_string(totals.suspicious) + " suspicious, " +
-               std::to_string(totals.notes) + " notes\n";
+        return counted(totals.timelines, "timeline") + ", " + counted(totals.events, "event") +
+               ", " + std::to_string(totals.suspicious) + " suspicious, " +
+               counted(totals.notes, "note") + "\n";
     }
 
     ReadingOptions reading;

@@ -5,6 +5,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "cli/Counted.h"
 #include "cli/Shown.h"
 #include "timecode/FrameRate.h"
 
@@ -36,8 +37,8 @@ ordered_json orNull(const std::optional<std::size_t>& number) {
 std::string findingsText(std::string_view file, const TimelineDocument& document,
                          const Findings& findings) {
     std::string text = shown(file == "-" ? "standard input" : file) + ": " +
-                       std::to_string(document.events.size()) + " events at " +
-                       formatFPS(document.fps) + " fps (" + document.fpsSource + ")\n";
+                       counted(document.events.size(), "event") + " at " + formatFPS(document.fps) +
+                       " fps (" + document.fpsSource + ")\n";
     for (const Finding& finding : findings) {
         text += "  " + weightName(finding) + ": " + placeOf(finding) + shown(finding.text) + "\n";
     }

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "cli/Commands.h"
+#include "cli/Counted.h"
 #include "cli/Impossible.h"
 #include "cli/Output.h"
 #include "cli/OutputOptions.h"
@@ -76,8 +77,8 @@ class ConvertCommand : public Command {
     static void tell(const ReadAgain& again, const std::string& title, Session& session) {
         if (again.kept == again.events) return;
         const std::string sentence = title + ": " + std::to_string(again.kept) + " of " +
-                                     std::to_string(again.events) +
-                                     " events can be read again: " + again.reasons;
+                                     counted(again.events, "event") +
+                                     " can be read again: " + again.reasons;
         if (again.kept == 0) {
             session.fail(sentence);
         } else {

@@ -10,6 +10,7 @@
 #include <string>
 #include <utility>
 
+#include "cli/Counted.h"
 #include "cli/FrameCounts.h"
 #include "timecode/FrameRate.h"
 #include "timecode/TwoDigitFields.h"
@@ -49,7 +50,8 @@ std::string fittingRates(std::int64_t largest) {
 
 Finding beyondRate(const FrameFields& fields, double fps) {
     std::string text = fields.first + " is no timecode at " + formatFPS(fps) + " fps";
-    if (fields.beyond > 1) text += ", nor are " + std::to_string(fields.beyond - 1) + " others";
+    const std::size_t others = fields.beyond - 1;
+    if (others > 0) text += (others == 1 ? ", nor is " : ", nor are ") + counted(others, "other");
     return {"frames-beyond-rate", Weight::suspicious, std::nullopt, fields.firstRow,
             text + "; " + fittingRates(fields.largest)};
 }

@@ -7,6 +7,7 @@
 
 #include <array>
 #include <optional>
+#include "cli/Counted.h"
 
 #include "base/Characters.h"
 #include "base/Number.h"
@@ -30,7 +31,7 @@ class TableFormat : public ListFormat {
     std::string timeline(const TimelineDocument& document, std::string_view file) override {
         std::string text = isFirst ? "" : "\n";
         text += shown(file == "-" ? "standard input" : file) + ": " +
-                std::to_string(document.events.size()) + " events at " + formatFPS(document.fps) +
+                counted(document.events.size(), "event") + " at " + formatFPS(document.fps) +
                 " fps (" + document.fpsSource + ")\n";
         if (!document.events.empty()) text += rows(document);
         isFirst = false;

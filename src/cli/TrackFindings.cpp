@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "cli/Counted.h"
 #include "cli/EventFindings.h"
 #include "timecode/Timecode.h"
 
@@ -40,10 +41,6 @@ Tracks tracksOf(const TimelineDocument& document) {
     return tracks;
 }
 
-std::string framesOf(std::int64_t count) {
-    return std::to_string(count) + (count == 1 ? " frame" : " frames");
-}
-
 void tell(Findings& found, std::string kind, Finding::Weight weight, std::size_t row,
           std::string text) {
     found.push_back({std::move(kind), weight, std::nullopt, row, std::move(text)});
@@ -54,13 +51,13 @@ void lookAtTrack(const std::string& track, const std::vector<Stretch>& stretches
     for (const Stretch& stretch : stretches) {
         if (last != nullptr && stretch.in > last->out) {
             tell(found, "gap", Finding::Weight::note, stretch.row,
-                 "track " + track + " is empty for " + framesOf(stretch.in - last->out) +
+                 "track " + track + " is empty for " + counted(stretch.in - last->out, "frame") +
                      " before it");
         } else if (last != nullptr && stretch.in < last->out) {
             const std::int64_t both = std::min(stretch.out, last->out) - stretch.in;
             const auto [earlier, later] = std::minmax(stretch.row, last->row);
             tell(found, "overlap", Finding::Weight::suspicious, later,
-                 "it overlaps row " + std::to_string(earlier) + " by " + framesOf(both) +
+                 "it overlaps row " + std::to_string(earlier) + " by " + counted(both, "frame") +
                      " on track " + track);
         }
         if (last == nullptr || stretch.out > last->out) last = &stretch;

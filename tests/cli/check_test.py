@@ -145,7 +145,7 @@ class Events(Checked):
             text = f"* FPS: {rate}\n" + event(1, (at(0), at(1)), (at(0), at(1))) + event(
                 2, (at(0), at(1)), ("01:00:00:00", high)) + event(3, (at(0), high), (at(1), at(2)))
             self.assertEqual([f for f in self.suspicious("a.edl", text) if f[0] != "overlap"], [
-                ("frames-beyond-rate", 2, f"{high} is no timecode at {rate} fps, nor are 1 others; {fits}")])
+                ("frames-beyond-rate", 2, f"{high} is no timecode at {rate} fps, nor is 1 other; {fits}")])
         self.assertNotIn("frames-beyond-rate", {f[0] for f in self.suspicious(
             "a.edl", text.replace("* FPS: 25\n", ""), "--fps", "61")})
 
@@ -237,7 +237,7 @@ class Files(Checked):
                 said=["a.pdf: is not called .edl"]),
             Row("told another rate", ["check", "--fps", "30", "good.edl"], files=files,
                 said=["good.edl names 25 fps: read at 30 fps"]),
-            Row("impossible", ["check", "a.edl", "good.edl"], FAILED, holds=["good.edl: 1 events"],
+            Row("impossible", ["check", "a.edl", "good.edl"], FAILED, holds=["good.edl: 1 event"],
                 files={"a.edl": "* FPS: 99999999999999999999", **files},
                 said=["a.edl: it holds an impossible number"]),
             Row("empty folder", ["check", "in"], files={"in/notes.pdf": ""}, output="",
@@ -251,7 +251,7 @@ class Files(Checked):
         (self.folder / "in/loop.edl").symlink_to("loop.edl")
         done = self.run_program("check", "in")
         self.assertEqual(done.status, FAILED)
-        self.assertIn("in/a.edl: 1 events", done.text)
+        self.assertIn("in/a.edl: 1 event", done.text)
         self.assertEqual([line.split(": ")[1] for line in done.said.splitlines()],
                          ["in/loop.edl", "in/pipe.edl"])
 

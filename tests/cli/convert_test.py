@@ -90,7 +90,7 @@ class ReadAgain(ProgramTest):
                     change.get("times", times), {**good, **change}) + "</a>")
                 done = self.run_program("convert", "-q", "-o", "x.edl", "--force", "cut.xml")
                 self.assertEqual(done.status, FAILED)
-                self.assertIn(f"x.edl: 0 of 1 events can be read again: {reason}\n", done.said)
+                self.assertIn(f"x.edl: 0 of 1 event can be read again: {reason}\n", done.said)
                 self.assertTrue(self.content("x.edl").startswith(HEAD.encode()))
 
     def test_name_behind_a_lost_event(self):

@@ -66,11 +66,11 @@ class Rates(ProgramTest):
             Row("converted from a guess", ["list", "--to", "25", "cut.edl"], FAILED, files=event,
                 output="", said=["cut.edl: names no rate, and --to would convert from a guess"]),
             Row("one fails, the other stays", ["list", "--to", "30", "cut.edl", "named.edl"],
-                FAILED, files=event, holds=["named.edl: 1 events at 30 fps (Manual)"],
+                FAILED, files=event, holds=["named.edl: 1 event at 30 fps (Manual)"],
                 said=["cut.edl: names no rate"]),
             Row("impossible number", ["list", "a.xml", "named.edl"], FAILED,
                 files={"a.xml": '<a timebase="25"><clip start="1e30s"/></a>', **event},
-                holds=["named.edl: 1 events"],
+                holds=["named.edl: 1 event"],
                 said=["a.xml: it holds an impossible number: a number cannot be rounded"]),
             Row("impossible rate", ["list", "-f", "jsonl", "b.edl"], FAILED, output="",
                 files={"b.edl": "* FPS: 99999999999999999999"},
@@ -158,7 +158,7 @@ class Formats(ProgramTest):
         self.put("cut.edl", NAMED + f"* FROM CLIP NAME: {name}\n")
         done = self.run_program("list", "cut.edl")
         self.assertIn(name, done.text)
-        self.assertEqual(done.text.splitlines()[0], "cut.edl: 1 events at 25 fps (File)")
+        self.assertEqual(done.text.splitlines()[0], "cut.edl: 1 event at 25 fps (File)")
         for columns in (80, 120):
             lines = self.on_terminal(columns, "list", "cut.edl").splitlines()
             self.assertEqual(len(lines), 3, lines)
@@ -246,13 +246,13 @@ class Inputs(ProgramTest):
             ["/dev/null", "could not be read: it is not a regular file"],
             ["loop.edl", "could not be read: Too many levels of symbolic links"],
             ["notes.pdf", "could not be read: No such file or directory"]])
-        self.assertIn("cut.edl: 1 events", done.text)
+        self.assertIn("cut.edl: 1 event", done.text)
 
     def test_unknown_extension(self):
         self.put("cut.pdf", NAMED)
         self.try_row(Row("", ["list", "cut.pdf"], FAILED, output="",
                          said=["cut.pdf: is not called .edl, .txt, .xml, .fcpxml or .xmeml: say with --from"]))
-        self.try_row(Row("", ["list", "--from", "edl", "cut.pdf"], holds=["cut.pdf: 1 events"]))
+        self.try_row(Row("", ["list", "--from", "edl", "cut.pdf"], holds=["cut.pdf: 1 event"]))
 
 
 class JSONLines(ProgramTest):

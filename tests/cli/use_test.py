@@ -133,7 +133,7 @@ class Outputs(ProgramTest):
                                       cwd=self.folder, capture_output=True, check=False)
                 self.assertEqual((done.returncode, done.stderr.decode()), (status, said))
         self.assertEqual(self.content("a.csv"), self.content("b.csv"))
-        self.assertIn(b"a.edl: 1 events", self.content("b.csv"))
+        self.assertIn(b"a.edl: 1 event", self.content("b.csv"))
 
     def test_stream_that_does_not_wait(self):
         reader, writer = os.pipe()
