@@ -9,6 +9,7 @@
 #include <set>
 #include <system_error>
 
+#include "base/Links.h"
 #include "cli/FileIdentity.h"
 #include "cli/Output.h"
 #include "cli/Reason.h"
@@ -24,15 +25,31 @@ std::string placeOf(const Input& input, const OutputOptions& options, OutputNami
     return (std::filesystem::path(options.folder) / naming(input)).native();
 }
 
-void refuseMeetings(Plan& plan, const std::vector<Input>& inputs, Session& session) {
-    std::map<std::string, std::size_t> uses;
-    for (const auto& place : plan) ++uses[*place];
-    for (std::size_t i = 0; i < plan.size(); ++i) {
-        if (uses[*plan[i]] == 1) continue;
-        session.fail(inputs[i].title(), because("would be written to " + *plan[i] +
-                                                ", and so would another of these files"));
-        plan[i].reset();
+/// What the file is called that writing to `place` replaces or makes: links are followed then.
+std::string realName(const std::string& place) {
+    std::filesystem::path file = place;
+    if (followLinks(file) != 0) return place;  // writing it will say why
+    std::error_code unknown;
+    const auto folder = std::filesystem::weakly_canonical(
+        file.has_parent_path() ? file.parent_path() : ".", unknown);
+    return unknown ? place : (folder / file.filename()).native();
+}
+
+/// Says which outputs would be one file; true when there are any.
+bool wouldMeet(const Plan& plan, const std::vector<Input>& inputs, Session& session) {
+    std::map<std::string, std::vector<std::size_t>> uses;
+    for (std::size_t i = 0; i < plan.size(); ++i) uses[realName(*plan[i])].push_back(i);
+    bool meet = false;
+    for (const auto& [name, those] : uses) {
+        if (those.size() == 1) continue;
+        meet = true;
+        for (const std::size_t i : those) {
+            session.fail(inputs[i].title(),
+                         because("would be written to " + *plan[i] +
+                                 ", and so would another of these files: nothing is written"));
+        }
     }
+    return meet;
 }
 
 void refuseInputs(Plan& plan, const std::vector<Input>& inputs, Session& session) {
@@ -79,13 +96,12 @@ std::optional<std::string> misuseOf(const OutputOptions& options,
 std::vector<std::optional<std::string>> planOutputs(const OutputOptions& options,
                                                     const std::vector<Input>& inputs,
                                                     OutputNaming naming, Session& session) {
-    if (!options.folder.empty() && !makeFolder(options.folder, session)) {
-        return Plan(inputs.size());
-    }
     Plan plan;
     for (const Input& input : inputs) plan.emplace_back(placeOf(input, options, naming));
     if (options.inPlace) return plan;
-    refuseMeetings(plan, inputs, session);
+    const bool isRefused = (inputs.size() > 1 && wouldMeet(plan, inputs, session)) ||
+                           (!options.folder.empty() && !makeFolder(options.folder, session));
+    if (isRefused) return Plan(inputs.size());
     refuseInputs(plan, inputs, session);
     return plan;
 }

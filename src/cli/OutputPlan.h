@@ -20,9 +20,9 @@ using OutputNaming = std::string (*)(const Input& input);
 /// several of -o, -d and --in-place, or one that does not go with these inputs.
 std::optional<std::string> misuseOf(const OutputOptions& options, const std::vector<Input>& inputs);
 
-/// Where the output of each input goes, in their order; makes the folder. Nothing for an input that
-/// is refused, because its output would meet another's or lie over an input: that is said, and
-/// nothing is written then.
+/// Where the output of each input goes, in their order; makes the folder. Nothing for an input
+/// whose output would lie over an input, and nothing for all of them if the outputs of two would be
+/// one file: that is said.
 std::vector<std::optional<std::string>> planOutputs(const OutputOptions& options,
                                                     const std::vector<Input>& inputs,
                                                     OutputNaming naming, Session& session);

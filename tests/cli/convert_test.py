@@ -24,7 +24,7 @@ class Files(ProgramTest):
 
     def test_where_it_goes(self):
         files = {"a.edl": NAMED, "b.xml": '<a timebase="25"/>', "in/a.txt": NAMED}
-        meet = "would be written to out/a.edl, and so would another of these files"
+        meet = "would be written to out/a.edl, and so would another of these files: nothing is written"
         self.try_rows([
             Row("file", ["convert", "-o", "x.edl", "a.edl"], files=files, after={"x.edl": WRITTEN}),
             Row("folder", ["convert", "-d", "out/deep", "a.edl", "b.xml"], files=files,
@@ -37,7 +37,7 @@ class Files(ProgramTest):
                 files={"out/a.edl": "old", **files}, after={"out/a.edl": WRITTEN}),
             Row("names that meet", ["convert", "-d", "out", "a.edl", "b.xml", "in/a.txt"], FAILED,
                 files=files, said=["a.edl: " + meet, "in/a.txt: " + meet],
-                after={"out/a.edl": None, "out/b.edl": HEAD}),
+                after={"out/a.edl": None, "out/b.edl": None}),
             Row("own input", ["convert", "--force", "-d", ".", "a.edl", "b.xml"], FAILED, files=files,
                 said=["./a.edl: is one of the files that are read"],
                 after={"a.edl": NAMED, "b.edl": HEAD}),
@@ -56,6 +56,23 @@ class Files(ProgramTest):
         self.put("in/a.edl", NAMED)
         done = self.run_program("convert", "--force", "-d", "in", "a.xml", "in/a.edl")
         self.assertEqual((done.status, self.content("in/a.edl")), (FAILED, NAMED.encode()))
+
+    def test_names_that_meet_leave_no_trace(self):
+        self.put("a.edl", NAMED)
+        self.put("a.xml", '<a timebase="25"/>')
+        self.assertEqual(self.run_program("convert", "-d", "out", "a.edl", "a.xml").status, FAILED)
+        self.assertFalse((self.folder / "out").exists())
+
+    def test_names_that_meet_through_a_link(self):
+        self.put("a.edl", NAMED)
+        self.put("b.xml", '<a timebase="25"/>')
+        self.put("out/b.edl", "old")
+        for target in ("b.edl", str(self.folder / "out/b.edl")):
+            (self.folder / "out/a.edl").symlink_to(target)
+            done = self.run_program("convert", "--force", "-d", "out", "a.edl", "b.xml")
+            self.assertEqual((done.status, self.content("out/b.edl")), (FAILED, b"old"))
+            self.assertIn("a.edl: would be written to out/a.edl, and so would another", done.said)
+            (self.folder / "out/a.edl").unlink()
 
     def test_wrong_use(self):
         for arguments in (["a.edl"], ["-o", "x", "-d", "y", "a.edl"], ["-o", "x", "a.edl", "b.edl"],
