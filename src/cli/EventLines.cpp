@@ -73,7 +73,8 @@ std::optional<Error> checkKeys(const json& object) {
     return std::nullopt;
 }
 
-/// Adds the event of `line` to `document`, which has the rate of its first.
+/// Adds the event of `line` to `document`, which has the rate of its lines, or of the first that
+/// has another than `fps`.
 Result<void> takeLine(std::string_view line, std::optional<double> fps,
                       TimelineDocument& document) {
     const json object = json::parse(line, nullptr, false);
@@ -81,13 +82,14 @@ Result<void> takeLine(std::string_view line, std::optional<double> fps,
     if (auto fault = checkKeys(object)) return tl::unexpected(std::move(*fault));
     const auto lineRate = object["fps"].get<double>();
     const auto lineSource = object["fpsSource"].get<std::string>();
-    if (document.events.empty() && !fps) document.fps = lineRate;
+    const bool isFirst = document.events.empty();
+    if (isFirst || (fps && document.fps == *fps)) document.fps = lineRate;
     if (!fps && lineRate != document.fps) {
         return tl::unexpected(
             because("has another \"fps\" than the lines before; --fps would make them one"));
     }
     // One guess among them makes the whole of it one.
-    if (document.events.empty() || lineSource == fpsSourceDefault) document.fpsSource = lineSource;
+    if (isFirst || lineSource == fpsSourceDefault) document.fpsSource = lineSource;
     auto event = decodeJSON(line);
     if (!event) return tl::unexpected(because("has an \"id\" that is no UUID"));
     document.events.push_back(*event);

@@ -21,8 +21,9 @@ namespace clipvane::cli {
 std::string eventLines(const TimelineDocument& document, std::string_view file);
 
 /// Reads such lines: of each the thirteen keys, `fps` and `fpsSource`; blank lines are skipped.
-/// Lines of different `fps` are one list at `fps` only if that is given. Fails with the number of
-/// the first line that is none.
+/// Lines of different `fps` are refused unless `fps` is given: they are to be read at it, and the
+/// document has the rate of the first line that names another. Fails with the number of the first
+/// line that is none.
 Result<std::unique_ptr<TimelineDocument>> parseEventLines(std::string_view text,
                                                           std::optional<double> fps);
 

@@ -296,6 +296,18 @@ class JSONLines(ProgramTest):
 
     def test_empty_stream_is_an_empty_list(self):
         for stdin in (b"", b"\n\n"):
+    def test_another_rate_than_the_lines_name_is_said(self):
+        self.put("a.edl", NAMED)
+        self.put("b.edl", NAMED.replace("25", "24"))
+        for files, told, named in [(["a.edl"], "30", "25"), (["a.edl"], "25", None),
+                                   (["b.edl", "a.edl"], "24", "25"), (["b.edl", "a.edl"], "25", "24"),
+                                   (["a.edl", "b.edl"], "30", "25")]:
+            with self.subTest(files=files, told=told):
+                lines = self.run_program("list", "-f", "jsonl", *files).output
+                done = self.run_program("list", "--fps", told, "--from", "jsonl", "-", stdin=lines)
+                self.assertEqual(done.said, f"clipvane-cli: standard input names {named} fps: read at "
+                                 f"{told} fps, as --fps says\n" if named else "")
+
             done = self.run_program("list", "-f", "csv", "--from", "jsonl", "-", stdin=stdin)
             self.assertEqual((done.status, done.said, done.text), (OK, "", HEADER + "\n"))
 
