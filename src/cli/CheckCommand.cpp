@@ -11,12 +11,15 @@
 #include "cli/Commands.h"
 #include "cli/Counted.h"
 #include "cli/Output.h"
+#include "cli/OutputOptions.h"
 #include "cli/ReadingOptions.h"
 #include "cli/TimelineReading.h"
 #include "cli/TimelineWalk.h"
 
 namespace clipvane::cli {
 namespace {
+
+constexpr const char* standardOutput = "-";
 
 bool isSuspicious(const Finding& finding) {
     return finding.weight == Finding::Weight::suspicious;
@@ -55,8 +58,13 @@ class CheckCommand : public Command {
     Status run(Session& session) override {
         const auto inputs = inputsNamed(reading.names);
         if (const auto misuse = misuseOf(inputs, reading)) return session.wrongUse(*misuse);
-        auto output = Output::open("-", AtomicFile::Existing::keep);
-        const auto written = checkAll(walkTimelines(inputs, session), *output, session);
+        if (isAnInput(standardOutput, inputs)) {
+            session.fail(outputTitle(standardOutput), isInputError());
+            return Status::failed;
+        }
+        auto output = Output::open(standardOutput, AtomicFile::Existing::keep);
+        const auto timelines = walkTimelines(inputs, Output::identityOf(standardOutput), session);
+        const auto written = checkAll(timelines, *output, session);
         if (!written) session.fail(output->name(), written.error());
         return session.statusOr(strict && totals.suspicious > 0 ? Status::suspicious : Status::ok);
     }

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <set>
 #include <system_error>
 #include <utility>
 
@@ -22,10 +23,12 @@ bool isFolder(const fs::path& path) {
 
 class Walk {
   public:
-    explicit Walk(Session& session) : session(session) {}
+    Walk(const std::optional<FileIdentity>& output, Session& session) : session(session) {
+        if (output) files.insert(*output);
+    }
 
     void take(const Input& input) {
-        if (!input.isStream() && isFolder(input.name()) && !input.format()) {
+        if (!input.isStream() && isFolder(input.name()) && !isBundleName(input.fileName())) {
             takeFolder(input.name());
         } else if (isNew(input)) {
             found.push_back({input, true});
@@ -39,14 +42,13 @@ class Walk {
         std::vector<fs::path> paths;
         lookInto(folder, paths);
         std::ranges::sort(paths, {}, &fs::path::native);
-        std::size_t count = 0;
         for (const fs::path& path : paths) {
             Input input(path.native());
-            ++count;
             if (isNew(input)) found.push_back({std::move(input), false});
         }
-        if (count == 0 && !session.hasFailed())
+        if (paths.empty() && !session.hasFailed()) {
             session.note(folder.native() + " holds no timelines");
+        }
     }
 
     void lookInto(const fs::path& folder, std::vector<fs::path>& paths) {
@@ -88,8 +90,10 @@ class Walk {
 
 }  // namespace
 
-std::vector<WalkedTimeline> walkTimelines(const std::vector<Input>& inputs, Session& session) {
-    Walk walk(session);
+std::vector<WalkedTimeline> walkTimelines(const std::vector<Input>& inputs,
+                                          const std::optional<FileIdentity>& output,
+                                          Session& session) {
+    Walk walk(output, session);
     for (const Input& input : inputs) walk.take(input);
     return std::move(walk.found);
 }

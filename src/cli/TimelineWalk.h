@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <set>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -21,8 +21,10 @@ struct WalkedTimeline {
 
 /// The timelines that `inputs` are, or that lie in them and in the folders within: every file with
 /// one of the five extensions, and folders that are one timeline, in the order of their paths'
-/// bytes. Linked folders are walked, too, and no file comes twice. What cannot be looked into is
-/// said, and so is a folder that holds none.
-std::vector<WalkedTimeline> walkTimelines(const std::vector<Input>& inputs, Session& session);
+/// bytes. Linked folders are walked, too, and no file comes twice, nor does `output`, the file that
+/// the report goes to. What cannot be looked into is said, and so is a folder that holds none.
+std::vector<WalkedTimeline> walkTimelines(const std::vector<Input>& inputs,
+                                          const std::optional<FileIdentity>& output,
+                                          Session& session);
 
 }  // namespace clipvane::cli

@@ -6,8 +6,9 @@
 import json
 import os
 import re
+import subprocess
 
-from program import (EVENT, FAILED, NAMED, OK, SUSPICIOUS, TREE, WRONG_USE, ProgramTest, Row,
+from program import (EVENT, FAILED, NAMED, OK, PROGRAM, SUSPICIOUS, TREE, WRONG_USE, ProgramTest, Row,
                      fixtures, main, run)
 
 MANUAL = TREE / "packaging" / "clipvane-cli.1.in"
@@ -259,6 +260,29 @@ class Files(Checked):
         for name in (b"new\nline.edl", b"latin\xe9.edl", "caf\u00e9.edl".encode()):
             self.put(name, NAMED)
         lines = [line for line in self.run_program("check", ".").text.splitlines()
+    def test_folder_with_the_name_of_a_timeline_is_walked(self):
+        self.put("cuts.edl/a.edl", NAMED)
+        for folder in ("cuts.edl", "."):
+            self.assertIn("cuts.edl/a.edl: 1 event", self.run_program("check", folder).text)
+
+    def test_report_is_no_timeline_of_its_own(self):
+        self.put("in/a.edl", NAMED)
+        with open(self.folder / "in/report.txt", "wb") as report:
+            done = subprocess.run([PROGRAM, "check", "in"], cwd=self.folder, stdout=report,
+                                  stderr=subprocess.PIPE, check=False)
+        self.assertEqual((done.returncode, done.stderr), (OK, b""))
+        self.assertEqual(self.content("in/report.txt"), self.run_program("check", "in/a.edl").output)
+
+    def test_report_is_not_written_over_what_is_read(self):
+        path = self.put("a.edl", NAMED)
+        with open(path, "ab") as report:
+            done = subprocess.run([PROGRAM, "check", "a.edl"], cwd=self.folder, stdout=report,
+                                  stderr=subprocess.PIPE, check=False)
+        self.assertEqual((done.returncode, done.stderr.decode()), (
+            FAILED, "clipvane-cli: standard output: is one of the files that are read, "
+                    "and is not written over\n"))
+        self.assertEqual(path.read_bytes(), NAMED.encode())
+
                  if not line.startswith("  ")]
         self.assertEqual([line.split(":")[0] for line in lines[:-1]],
                          ["./caf\u00e9.edl", "./latin\ufffd.edl", "./new\ufffdline.edl"])
