@@ -16,7 +16,11 @@ enum class FrameCodeMode {
     mixed,  ///< some drop frames, others do not
 };
 
-/// What the lines of the EDL that begin with FCM say: DROP FRAME or NON-DROP FRAME, in any case.
+/// What a line says if it begins with FCM: `drop` for DROP FRAME, `nonDrop` for NON-DROP FRAME, in
+/// any case; otherwise `none`.
+FrameCodeMode frameCodeModeOfLine(std::string_view line);
+
+/// What such lines of the EDL say together.
 FrameCodeMode frameCodeModeOf(std::string_view edl);
 
 }  // namespace clipvane::cli

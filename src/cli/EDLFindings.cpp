@@ -3,7 +3,7 @@
 
 #include "cli/EDLFindings.h"
 
-#include <array>
+#include <algorithm>
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -11,6 +11,7 @@
 
 #include "base/Characters.h"
 #include "base/UTF8.h"
+#include "cli/DropFrame.h"
 #include "cli/Encoding.h"
 #include "cli/NumberedLines.h"
 #include "cli/UnreadLine.h"
@@ -34,7 +35,7 @@ struct Tally {
 };
 
 /// "1 comment is", "2 comments are".
-std::string counted(std::size_t count, const std::string& one, const std::string& several) {
+std::string countedAs(std::size_t count, const std::string& one, const std::string& several) {
     return std::to_string(count) + " " + (count == 1 ? one + " is" : several + " are");
 }
 
@@ -43,9 +44,9 @@ std::string_view withoutBlanks(std::string_view line) {
     return line;
 }
 
-bool isDropFrame(std::string_view line) {
-    return line.starts_with("FCM") && line.find("DROP FRAME") != std::string_view::npos &&
-           line.find("NON") == std::string_view::npos;
+/// In any case of letters; `word` is in lower case.
+bool beginsWith(std::string_view line, std::string_view word) {
+    return std::ranges::equal(line.substr(0, word.size()), word, {}, asciiLower);
 }
 
 /// Walks through the lines as the reader does.
@@ -98,15 +99,15 @@ class LineWalk {
                  "no event is read, because of " + reason + ": " + std::string(content));
             return;
         }
-        if (isDropFrame(content)) dropFrame.add(number);
+        if (frameCodeModeOfLine(content) == FrameCodeMode::drop) dropFrame.add(number);
         kindOf(content).add(number);
     }
 
     Tally& kindOf(std::string_view content) {
         if (content.empty()) return blanks;
-        if (content.starts_with("FCM")) return frameCodes;
-        if (content.starts_with("M2")) return motions;
-        return content.starts_with("TITLE") ? titles : others;
+        if (beginsWith(content, "fcm")) return frameCodes;
+        if (beginsWith(content, "m2")) return motions;
+        return beginsWith(content, "title") ? titles : others;
     }
 
     void tell(std::string kind, Weight weight, std::size_t line, std::string sentence) {
@@ -116,7 +117,7 @@ class LineWalk {
     void tellSkipped(const std::string& kind, const Tally& tally, const std::string& one,
                      const std::string& several) {
         if (tally.count == 0) return;
-        tell(kind, Weight::note, tally.first, counted(tally.count, one, several) + " skipped");
+        tell(kind, Weight::note, tally.first, countedAs(tally.count, one, several) + " skipped");
     }
 
     std::string_view text;

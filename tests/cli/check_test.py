@@ -127,6 +127,10 @@ class Lines(Checked):
                                 + "FCM: DROP FRAME\n")
         self.assertEqual([finding[:2] for finding in found], [("drop-frame", 2)])
         self.assertIn("counted without dropping", found[0][2])
+        for line, isDropped in [("fcm: Drop Frame", True), ("  FCM:DROP", True), ("FCM: non-drop", False),
+                                ("FCM", False), ("DROP FRAME", False), ("", False)]:
+            found = self.suspicious("a.edl", line + "\n" + NAMED)
+            self.assertEqual([finding[0] for finding in found], ["drop-frame"] * isDropped, line)
 
 
 class Events(Checked):
@@ -256,10 +260,6 @@ class Files(Checked):
         self.assertEqual([line.split(": ")[1] for line in done.said.splitlines()],
                          ["in/loop.edl", "in/pipe.edl"])
 
-    def test_names_of_files_cannot_break_the_lines(self):
-        for name in (b"new\nline.edl", b"latin\xe9.edl", "caf\u00e9.edl".encode()):
-            self.put(name, NAMED)
-        lines = [line for line in self.run_program("check", ".").text.splitlines()
     def test_folder_with_the_name_of_a_timeline_is_walked(self):
         self.put("cuts.edl/a.edl", NAMED)
         for folder in ("cuts.edl", "."):
@@ -283,6 +283,10 @@ class Files(Checked):
                     "and is not written over\n"))
         self.assertEqual(path.read_bytes(), NAMED.encode())
 
+    def test_names_of_files_cannot_break_the_lines(self):
+        for name in (b"new\nline.edl", b"latin\xe9.edl", "caf\u00e9.edl".encode()):
+            self.put(name, NAMED)
+        lines = [line for line in self.run_program("check", ".").text.splitlines()
                  if not line.startswith("  ")]
         self.assertEqual([line.split(":")[0] for line in lines[:-1]],
                          ["./caf\u00e9.edl", "./latin\ufffd.edl", "./new\ufffdline.edl"])
