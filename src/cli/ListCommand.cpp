@@ -59,7 +59,7 @@ class ListCommand : public Command {
   private:
     /// Fails where the output does; what cannot be read has been said then.
     Result<void> print(const std::vector<Input>& inputs, Output& destination, Session& session) {
-        const auto printer = listFormat(format, output.file.empty() || output.file == "-");
+        const auto printer = listFormat(format, destination.columns());
         bool printed = false;
         for (std::size_t i = 0; i < inputs.size(); ++i) {
             session.messages.progress(i, inputs.size(), inputs[i].name());

@@ -3,19 +3,15 @@
 
 #include "cli/ListFormat.h"
 
-#include <unistd.h>
-
-#include <array>
-#include <optional>
-#include "cli/Counted.h"
+#include <vector>
 
 #include "base/Characters.h"
 #include "base/Number.h"
+#include "cli/Counted.h"
 #include "cli/EventLines.h"
 #include "cli/Shown.h"
 #include "cli/TSVReport.h"
 #include "cli/Table.h"
-#include "cli/Terminal.h"
 #include "commands/CSVReport.h"
 #include "timecode/FrameRate.h"
 
@@ -24,9 +20,7 @@ namespace {
 
 class TableFormat : public ListFormat {
   public:
-    explicit TableFormat(bool onTerminal) {
-        if (onTerminal) width = terminalColumns(STDOUT_FILENO);
-    }
+    explicit TableFormat(std::optional<std::size_t> width) : width(width) {}
 
     std::string timeline(const TimelineDocument& document, std::string_view file) override {
         std::string text = isFirst ? "" : "\n";
@@ -109,8 +103,8 @@ class JSONLinesFormat : public ListFormat {
 
 }  // namespace
 
-std::unique_ptr<ListFormat> listFormat(const std::string& name, bool onTerminal) {
-    if (name == "table") return std::make_unique<TableFormat>(onTerminal);
+std::unique_ptr<ListFormat> listFormat(const std::string& name, std::optional<std::size_t> width) {
+    if (name == "table") return std::make_unique<TableFormat>(width);
     if (name == "csv") return std::make_unique<CSVFormat>();
     if (name == "tsv") return std::make_unique<TSVFormat>();
     if (name == "jsonl") return std::make_unique<JSONLinesFormat>();

@@ -3,7 +3,9 @@
 
 #pragma once
 
+#include <cstddef>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -27,8 +29,8 @@ class ListFormat {
     virtual std::string end() { return {}; }
 };
 
-/// By its name in -f: "table", "csv", "tsv" or "jsonl"; for any other nothing. A table is made for
-/// standard output's terminal if `onTerminal`.
-std::unique_ptr<ListFormat> listFormat(const std::string& name, bool onTerminal);
+/// By its name in -f: "table", "csv", "tsv" or "jsonl"; for any other nothing. A table is elided to
+/// `width` columns, if that is given.
+std::unique_ptr<ListFormat> listFormat(const std::string& name, std::optional<std::size_t> width);
 
 }  // namespace clipvane::cli

@@ -11,11 +11,12 @@
 
 #include "cli/Descriptors.h"
 #include "cli/Reason.h"
+#include "cli/Terminal.h"
 
 namespace clipvane::cli {
 namespace {
 
-constexpr std::size_t heldBack = std::size_t{64} << 10;
+constexpr std::size_t piece = std::size_t{64} << 10;
 constexpr std::string_view nowhere = "/dev/null";
 
 bool isStandardOutput(const std::string& name) {
@@ -45,6 +46,8 @@ Result<Output> Output::open(const std::string& name, AtomicFile::Existing existi
     Output output(outputTitle(name));
     if (const auto stream = streamCalled(name)) {
         output.descriptor = *stream;
+        // Whoever reads along sees each list with what is said about it.
+        output.heldBack = output.columns() ? 0 : piece;
     } else if (name == nowhere) {
         output.device = openFile(name.c_str(), O_WRONLY | O_CLOEXEC);
         if (!output.device.isOpen()) return tl::unexpected(systemError("written", errno));
@@ -57,14 +60,26 @@ Result<Output> Output::open(const std::string& name, AtomicFile::Existing existi
     return output;
 }
 
+std::optional<std::size_t> Output::columns() const {
+    return file ? std::nullopt : terminalColumns(descriptor);
+}
+
 Result<void> Output::write(std::string_view bytes) {
     if (file) return written(file->write(bytes));
-    pending += bytes;
-    return pending.size() < heldBack ? Result<void>() : flush();
+    if (pending.size() + bytes.size() <= heldBack) {
+        pending += bytes;
+        return {};
+    }
+    if (auto flushed = flush(); !flushed) return flushed;
+    return hand(bytes);
 }
 
 Result<void> Output::flush() {
     const std::string bytes = std::exchange(pending, {});
+    return hand(bytes);
+}
+
+Result<void> Output::hand(std::string_view bytes) const {
     const int code = writeAll(descriptor, bytes);
     if (code != 0) return tl::unexpected(systemError("written", code));
     return {};

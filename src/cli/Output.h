@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -27,6 +28,9 @@ class Output {
     /// "standard output", or the name as the user wrote it.
     const std::string& name() const { return called; }
 
+    /// The columns of the terminal that this leads to; nothing when it leads to none.
+    std::optional<std::size_t> columns() const;
+
     Result<void> write(std::string_view bytes);
 
     /// Hands over what is still held back; a file takes its place.
@@ -39,12 +43,14 @@ class Output {
     explicit Output(std::string called) : called(std::move(called)) {}
 
     Result<void> flush();
+    Result<void> hand(std::string_view bytes) const;
 
     std::string called;
     int descriptor = -1;
     Descriptor device;  ///< of /dev/null
     std::optional<AtomicFile> file;
-    std::string pending;  ///< for the descriptor
+    std::string pending;       ///< for the descriptor
+    std::size_t heldBack = 0;  ///< the most that may be pending
 };
 
 /// What messages call the output called `name`.

@@ -160,11 +160,21 @@ class Formats(ProgramTest):
         self.assertIn(name, done.text)
         self.assertEqual(done.text.splitlines()[0], "cut.edl: 1 event at 25 fps (File)")
         for columns in (80, 120):
-            lines = self.on_terminal(columns, "list", "cut.edl").splitlines()
-            self.assertEqual(len(lines), 3, lines)
-            self.assertTrue(all(len(line) <= columns for line in lines), lines)
-            self.assertIn("01:00:05:00  V", lines[2])
-            self.assertRegex(lines[2], "001 +sh?.*\u2026x+ ")
+            for to in ([], ["-o", "-"], ["-o", "/dev/stdout"]):
+                lines = self.on_terminal(columns, "list", *to, "cut.edl").splitlines()
+                self.assertEqual(len(lines), 3, lines)
+                self.assertTrue(all(len(line) <= columns for line in lines), lines)
+                self.assertIn("01:00:05:00  V", lines[2])
+                self.assertRegex(lines[2], "001 +sh?.*\u2026x+ ")
+        self.on_terminal(80, "list", "-o", "table.txt", "cut.edl")
+        self.assertIn(name.encode(), self.content("table.txt"))
+
+    def test_terminal_shows_each_table_with_what_is_said_of_it(self):
+        self.put("a.edl", EVENT)
+        self.put("b.edl", EVENT)
+        lines = self.on_terminal(80, "list", "a.edl", "b.edl", stderr=subprocess.STDOUT).splitlines()
+        self.assertEqual([line.split()[1] for line in lines if "names no rate" in line or "at 24 fps (" in line],
+                         ["a.edl", "1", "b.edl", "1"])
 
     def test_table_shows_wide_characters_in_their_columns(self):
         self.put("cut.edl", NAMED + "* FROM CLIP NAME: \u6e2f\n" + EVENT + "* FROM CLIP NAME: e\u0301\n")
@@ -180,12 +190,12 @@ class Formats(ProgramTest):
         self.assertIn("\ufffd[31mred\ufffd \ufffd2J \ufffdrl", done.text)
         self.assertIn("gone\ufffd[2J.edl: could not be read", done.said)
 
-    def on_terminal(self, columns, *arguments):
+    def on_terminal(self, columns, *arguments, stderr=subprocess.DEVNULL):
         """What the program writes to a terminal that wide."""
         main_end, terminal = pty.openpty()
         fcntl.ioctl(terminal, termios.TIOCSWINSZ, struct.pack("HHHH", 24, columns, 0, 0))
         subprocess.run([PROGRAM, *arguments], cwd=self.folder, stdout=terminal,
-                       stderr=subprocess.DEVNULL, check=True, timeout=60)
+                       stderr=stderr, check=True, timeout=60)
         os.close(terminal)
         output = b""
         while True:
@@ -286,16 +296,6 @@ class JSONLines(ProgramTest):
         self.assertEqual([(json.loads(line)["fps"], json.loads(line)["fpsSource"])
                           for line in done.text.splitlines()], [(30, "Manual")] * 2)
 
-    def test_guess_stays_a_guess(self):
-        self.put("cut.edl", EVENT)
-        lines = self.run_program("list", "-q", "-f", "jsonl", "cut.edl").output
-        done = self.run_program("list", "--from", "jsonl", "--to", "25", "-", stdin=lines)
-        self.assertEqual((done.status, done.text), (FAILED, ""))
-        done = self.run_program("list", "--from", "jsonl", "--fps", "24", "--to", "25", "-", stdin=lines)
-        self.assertEqual((done.status, done.said), (OK, ""))
-
-    def test_empty_stream_is_an_empty_list(self):
-        for stdin in (b"", b"\n\n"):
     def test_another_rate_than_the_lines_name_is_said(self):
         self.put("a.edl", NAMED)
         self.put("b.edl", NAMED.replace("25", "24"))
@@ -308,6 +308,16 @@ class JSONLines(ProgramTest):
                 self.assertEqual(done.said, f"clipvane-cli: standard input names {named} fps: read at "
                                  f"{told} fps, as --fps says\n" if named else "")
 
+    def test_guess_stays_a_guess(self):
+        self.put("cut.edl", EVENT)
+        lines = self.run_program("list", "-q", "-f", "jsonl", "cut.edl").output
+        done = self.run_program("list", "--from", "jsonl", "--to", "25", "-", stdin=lines)
+        self.assertEqual((done.status, done.text), (FAILED, ""))
+        done = self.run_program("list", "--from", "jsonl", "--fps", "24", "--to", "25", "-", stdin=lines)
+        self.assertEqual((done.status, done.said), (OK, ""))
+
+    def test_empty_stream_is_an_empty_list(self):
+        for stdin in (b"", b"\n\n"):
             done = self.run_program("list", "-f", "csv", "--from", "jsonl", "-", stdin=stdin)
             self.assertEqual((done.status, done.said, done.text), (OK, "", HEADER + "\n"))
 
