@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "cli/Descriptors.h"
+#include "cli/Impossible.h"
 #include "cli/Reason.h"
 
 namespace clipvane::cli {
@@ -60,7 +61,7 @@ std::optional<FileIdentity> Input::identity() const {
 }
 
 Result<FileBytes> Input::read() const {
-    if (stream) return readAll(*stream).map(toFileBytes);
+    if (stream) return possibly([&] { return readAll(*stream).map(toFileBytes); });
     auto bytes = readFile(documentOf(place));
     if (!bytes) return tl::unexpected(reworded(bytes.error(), "read"));
     return std::move(*bytes);

@@ -5,6 +5,7 @@
 
 #include <CLI/CLI.hpp>
 #include <memory>
+#include <new>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -52,10 +53,7 @@ void addHelpAndQuiet(CLI::App& app, bool& quiet) {
     app.add_flag("-q,--quiet", quiet, "say nothing but errors");
 }
 
-}  // namespace
-
-Status runProgram(int argc, const char* const* argv) {
-    Session session;
+Status run(int argc, const char* const* argv, Session& session) {
     bool quiet = false;
     CLI::App app("", "clipvane-cli");
     addHelpAndQuiet(app, quiet);
@@ -84,6 +82,18 @@ Status runProgram(int argc, const char* const* argv) {
     }
     if (quiet) session.messages.beQuiet();
     return chosen->run(session);
+}
+
+}  // namespace
+
+Status runProgram(int argc, const char* const* argv) {
+    Session session;
+    try {
+        return run(argc, argv, session);
+    } catch (const std::bad_alloc&) {
+        session.fail("there is not enough memory");
+        return Status::failed;
+    }
 }
 
 }  // namespace clipvane::cli

@@ -29,6 +29,26 @@ class Disks(ProgramTest):
                     FAILED, "clipvane-cli: out: could not be written: File too large\n"))
                 self.assertEqual(os.listdir(self.folder), ["a.edl"])
 
+    def test_full_disk_is_an_error_and_leaves_nothing(self):
+        """On a file system of its own, which is gone with the shell that made it."""
+        self.put("a.edl", NAMED + EVENT * 2000)
+        (self.folder / "disk").mkdir()
+        script = ("mount -t tmpfs -o size=64k tmpfs disk || exit 77; echo old >disk/old.edl; "
+                  '"$0" "$@"; status=$?; ls -A disk; cat disk/old.edl; exit $status')
+        for command in (["list", "-f", "csv", "-o", "disk/out"], ["convert", "-d", "disk"],
+                        ["convert", "--force", "-o", "disk/old.edl"],
+                        ["stamp", "--fps", "24", "--restamp", "-d", "disk"]):
+            with self.subTest(command=command):
+                done = subprocess.run(["unshare", "--mount", "--map-root-user", "bash", "-c", script,
+                                       PROGRAM, *command, "a.edl"], cwd=self.folder,
+                                      capture_output=True, text=True, check=False)
+                if done.returncode == 77 or done.stderr.startswith("unshare"):
+                    self.skipTest("no name space for mounts of its own here: " + done.stderr)
+                place = command[-1] if "-o" in command else command[-1] + "/a.edl"
+                self.assertEqual((done.returncode, done.stderr, done.stdout), (
+                    FAILED, f"clipvane-cli: {place}: could not be written: No space left on device\n",
+                    "old.edl\nold\n"))
+
     @unittest.skipIf(os.geteuid() != 0, "only root can become somebody else")
     def test_no_permission(self):
         os.chmod(self.folder, 0o755)
@@ -86,6 +106,33 @@ class Files(ProgramTest):
         for command in ("list", "check"):
             # The names themselves, and what the options' library makes of them.
             self.assertLess(used[command, 10000] - used[command, 100], 20000, used)
+
+    def test_little_memory_is_an_error(self):
+        text = NAMED + (EVENT + "* FROM CLIP NAME: a clip with a name\n") * 20000
+        self.put("a.edl", text)
+        self.put("a.jsonl", run("list", "-f", "jsonl", self.folder / "a.edl").output)
+        least = next(limit for limit in range(8 << 20, 1 << 30, 1 << 20)
+                     if self.within(limit, "--version").status == OK)
+        reasons = set()
+        for command in (["list", "-f", "csv", "a.edl"], ["list", "-f", "jsonl", "a.edl"], ["list", "a.edl"],
+                        ["check", "a.edl"], ["convert", "-o", "-", "a.edl"],
+                        ["stamp", "--fps", "24", "--restamp", "-o", "-", "a.edl"],
+                        ["list", "-f", "csv", "--from", "jsonl", "a.jsonl"]):
+            whole = self.run_program(*command).output
+            for more in (1, 3, 6, 12, 25):
+                with self.subTest(command=command, more=more):
+                    done = self.within(least + (more << 20), *command)
+                    self.assertIn(done.status, (OK, FAILED), done.said)
+                    if done.status == FAILED:
+                        self.assertRegex(done.said, r"\Aclipvane-cli: [^\n]+\n\Z")
+                        reasons.add(done.said.split(": ", 2)[-1])
+                        self.assertIn(done.output, (b"", whole))
+        self.assertIn("there is not enough memory for it\n", reasons)
+
+    def within(self, memory, *arguments):
+        """A run that may have so many bytes of addresses."""
+        return self.run_program(*arguments, preexec_fn=lambda: resource.setrlimit(
+            resource.RLIMIT_AS, (memory, memory)))
 
     def test_hostile_content_fails_its_file_alone(self):
         bomb = "<!DOCTYPE a [<!ENTITY e0 'ha'>" + "".join(
