@@ -8,6 +8,7 @@
 #include <QScrollBar>
 #include <set>
 
+#include "ui/ExpectedColumns.h"
 #include "ui/WindowUnderTest.h"
 
 namespace clipvane {
@@ -33,6 +34,9 @@ class AccessibilityTest : public test::WindowTest {
     }
     QAccessibleTableInterface& table() {
         return *named("Event Viewer", QAccessible::Table)->tableInterface();
+    }
+    QAccessibleInterface* cell(int row, std::string_view column) {
+        return table().cellAt(row, test::columnOf(column));
     }
 };
 
@@ -144,14 +148,17 @@ TEST_F(AccessibilityTest, Comments_ChangedByAssistiveTechnology_CountAsTyped) {
 TEST_F(AccessibilityTest, Table_TellsItsHeadersAndCells) {
     open(writeEDL("cut.edl", 2));
     EXPECT_EQ(table().rowCount(), 2);
-    EXPECT_EQ(table().columnCount(), 8);
-    EXPECT_EQ(table().columnDescription(1), "Clip Name");
-    auto* cell = table().cellAt(1, 1);
-    EXPECT_EQ(cell->role(), QAccessible::Cell);
-    EXPECT_EQ(cell->text(QAccessible::Name), "Clip 002");
-    EXPECT_EQ(cell->rect().height(), 48);
+    ASSERT_EQ(table().columnCount(), test::columnCount);
+    for (int column = 0; column < test::columnCount; ++column) {
+        const char* title = test::expectedColumns[static_cast<std::size_t>(column)].title;
+        EXPECT_EQ(table().columnDescription(column), title);
+        EXPECT_NE(named(title, QAccessible::ColumnHeader), nullptr) << title;
+    }
+    auto* name = cell(1, "clipName");
+    EXPECT_EQ(name->role(), QAccessible::Cell);
+    EXPECT_EQ(name->text(QAccessible::Name), "Clip 002");
+    EXPECT_EQ(name->rect().height(), 48);
     EXPECT_EQ(table().selectedRows(), QList<int>{0});
-    EXPECT_NE(named("Source In", QAccessible::ColumnHeader), nullptr);
 }
 
 TEST_F(AccessibilityTest, ScrolledSideways_HeadersAreWhereTheirCellsAre) {
@@ -160,13 +167,14 @@ TEST_F(AccessibilityTest, ScrolledSideways_HeadersAreWhereTheirCellsAre) {
     ASSERT_GT(bar->maximum(), 50);
     for (const int offset : {0, 50}) {
         bar->setValue(offset);
-        for (const char* title : {"Source In", "Source Out"}) {
+        for (const char* identifier : {"sourceIn", "sourceOut"}) {
+            const int column = test::columnOf(identifier);
+            const auto* title = test::expectedColumns[static_cast<std::size_t>(column)].title;
             const QRect header = named(title, QAccessible::ColumnHeader)->rect();
-            const int column = title == QString("Source In") ? 3 : 4;
-            const QRect cell = table().cellAt(0, column)->rect();
-            EXPECT_EQ(header.left(), cell.left()) << title << ' ' << offset;
-            EXPECT_EQ(header.width(), cell.width());
-            EXPECT_EQ(header.bottom() + 1, cell.top());
+            const QRect below = table().cellAt(0, column)->rect();
+            EXPECT_EQ(header.left(), below.left()) << title << ' ' << offset;
+            EXPECT_EQ(header.width(), below.width());
+            EXPECT_EQ(header.bottom() + 1, below.top());
         }
     }
 }
@@ -178,7 +186,7 @@ TEST_F(AccessibilityTest, EmptyCell_StillHasAName) {
                        "<out>5</out></clipitem></xmeml>");
     open(path);
     ASSERT_GT(table().rowCount(), 0);
-    for (int column = 0; column < 8; ++column) {
+    for (int column = 0; column < test::columnCount; ++column) {
         EXPECT_FALSE(table().cellAt(0, column)->text(QAccessible::Name).isEmpty()) << column;
     }
 }
@@ -189,7 +197,7 @@ TEST_F(AccessibilityTest, RowRemovedWhileWatched_CellsStayReadable) {
     find<EventTableView>()->selectRow(2);
     click("Remove Event");
     EXPECT_EQ(table().rowCount(), 2);
-    EXPECT_EQ(table().cellAt(1, 1)->text(QAccessible::Name), "Clip 002");
+    EXPECT_EQ(cell(1, "clipName")->text(QAccessible::Name), "Clip 002");
 }
 
 TEST_F(AccessibilityTest, DetailPanel_IsReadFromTheTop) {
