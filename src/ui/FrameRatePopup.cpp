@@ -34,6 +34,11 @@ bool opensList(int key) {
     }
 }
 
+bool isKeyEvent(const QEvent& event) {
+    return event.type() == QEvent::ShortcutOverride || event.type() == QEvent::KeyPress ||
+           event.type() == QEvent::KeyRelease;
+}
+
 }  // namespace
 
 FrameRatePopup::FrameRatePopup(QWidget* parent) : QComboBox(parent) {
@@ -57,6 +62,9 @@ void FrameRatePopup::selectShown() {
 
 bool FrameRatePopup::eventFilter(QObject* watched, QEvent* event) {
     if (watched == view() && event->type() == QEvent::Hide) selectShown();
+    // The toolkit chooses before it sends the key itself. Where assistive technology listens to
+    // keys, that one comes late, and would choose again in the list that it has closed.
+    if (watched == view() && isKeyEvent(*event) && !view()->isVisible()) return true;
     return QComboBox::eventFilter(watched, event);
 }
 

@@ -12,7 +12,7 @@ import expected
 from access import children_of, name_of, rectangle, role_of, states_of, text_of
 from desk import run_test
 from hands import press
-from waiting import wait_equal, wait_for
+from waiting import stays, wait_equal, wait_for
 
 # What a screen reader speaks of by itself: a notification that comes to show.
 ANNOUNCEMENT = "object:state-changed:showing"
@@ -125,6 +125,30 @@ def check_popup_while_open(desk):
         wait_equal(lambda: selected_rates(popup), ["25 fps"], "the selected entry")
 
 
+def check_choice_while_listened(desk):
+    popup = desk.find("combo box", "Global FPS")
+    kinds = (pyatspi.KEY_PRESSED_EVENT, pyatspi.KEY_RELEASED_EVENT)
+
+    def let_pass(_event):
+        return False
+
+    def status():
+        while GLib.MainContext.default().iteration(False):
+            pass
+        return desk.status()
+
+    with desk.step("Return chooses once, although a screen reader listens to all keys"):
+        pyatspi.Registry.registerKeystrokeListener(let_pass, mask=0, kind=kinds)
+        for key, change in (("Down", "25 fps to 29.97"), ("Up", "29.97 fps to 25")):
+            popup.queryAction().doAction(0)
+            wait_equal(desk.open_list, expected.RATES, "the open list")
+            press(key, "Return")
+            converted = f"Converted 20 timecodes from {change} fps."
+            wait_equal(status, converted, "the status line")
+            stays(lambda: status() == converted, "the only conversion")
+        pyatspi.Registry.deregisterKeystrokeListener(let_pass, mask=0, kind=kinds)
+
+
 def check_lines_of_comment(desk):
     with desk.step("each character of a comment has its place, line by line"):
         desk.click("text", "Comments")
@@ -188,6 +212,7 @@ def accessibility(desk):
     check_controls(desk)
     check_names(desk, "a timeline")
     check_popup_while_open(desk)
+    check_choice_while_listened(desk)
     check_lines_of_comment(desk)
     check_changes(desk)
     desk.button("Help")

@@ -133,5 +133,15 @@ TEST_F(FrameRatePopupTest, EntryChosenByKeyboard_Counts) {
     EXPECT_EQ(chosen, 1);
 }
 
+TEST_F(FrameRatePopupTest, KeyThatComesAgainWhereAssistiveTechnologyListens_ChoosesOnce) {
+    QTest::keyClick(&popup, Qt::Key_Down);
+    QTest::keyClick(popup.view(), Qt::Key_Return);
+    ASSERT_EQ(chosen, 1);
+    QKeyEvent late(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r");
+    QApplication::sendEvent(popup.view(), &late);
+    EXPECT_EQ(chosen, 1);
+    EXPECT_FALSE(popup.view()->isVisible());
+}
+
 }  // namespace
 }  // namespace clipvane
