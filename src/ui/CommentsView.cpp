@@ -3,11 +3,14 @@
 
 #include "ui/CommentsView.h"
 
+#include <QGuiApplication>
+#include <QInputMethod>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QSignalBlocker>
 #include <QTextBlock>
 #include <QTextDocument>
+#include <QTextLayout>
 #include <algorithm>
 #include <utility>
 
@@ -93,7 +96,7 @@ void CommentsView::wrapFor(const QString& text) {
 }
 
 bool CommentsView::isEdited() const {
-    return document()->revision() != shownRevision;
+    return !onlyComposing && document()->revision() != shownRevision;
 }
 
 std::string CommentsView::comments() const {
@@ -109,6 +112,33 @@ void CommentsView::keyPressEvent(QKeyEvent* event) {
     }
     QPlainTextEdit::keyPressEvent(event);
     wrapFor(textCursor().block().text());
+}
+
+/// Composing moves the document's revision before there is any change.
+void CommentsView::inputMethodEvent(QInputMethodEvent* event) {
+    const bool changesText = !event->commitString().isEmpty() || event->replacementLength() != 0 ||
+                             textCursor().hasSelection();
+    onlyComposing = !changesText && !isEdited();
+    QPlainTextEdit::inputMethodEvent(event);
+    if (onlyComposing) shownRevision = document()->revision();
+    onlyComposing = false;
+}
+
+void CommentsView::focusOutEvent(QFocusEvent* event) {
+    endComposing();
+    QPlainTextEdit::focusOutEvent(event);
+}
+
+void CommentsView::endComposing() {
+    const auto composed = [this] { return textCursor().block().layout()->preeditAreaText(); };
+    if (composed().isEmpty()) return;
+    QGuiApplication::inputMethod()->commit();
+    // Not every input method does it, and what one leaves would be lost with the next event shown.
+    if (composed().isEmpty()) return;
+    QInputMethodEvent typed;
+    typed.setCommitString(composed());
+    QCoreApplication::sendEvent(this, &typed);
+    QGuiApplication::inputMethod()->reset();
 }
 
 void CommentsView::insertFromMimeData(const QMimeData* source) {

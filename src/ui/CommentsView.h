@@ -25,11 +25,16 @@ class CommentsView : public QPlainTextEdit {
 
     /// True once the user has changed the text since it was shown.
     bool isEdited() const;
-    /// The text as UTF-8, character for character, with line feeds between its lines.
+    /// The text as UTF-8, character for character, with line feeds between its lines. What is still
+    /// being composed is not part of it.
     std::string comments() const;
+    /// Takes what an input method is still composing as typed.
+    void endComposing();
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     QMimeData* createMimeDataFromSelection() const override;
     void insertFromMimeData(const QMimeData* source) override;
 
@@ -40,6 +45,7 @@ class CommentsView : public QPlainTextEdit {
 
     std::optional<UUID> shownEvent;
     int shownRevision = 0;
+    bool onlyComposing = false;  ///< an input method changes what is seen of an untouched text
 };
 
 }  // namespace clipvane

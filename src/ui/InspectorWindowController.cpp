@@ -13,6 +13,7 @@
 #include "ui/CommentsBlockView.h"
 #include "ui/DetailScrollView.h"
 #include "ui/DetailStackView.h"
+#include "ui/EventSelectionModel.h"
 #include "ui/EventTableView.h"
 #include "ui/Fonts.h"
 #include "ui/FrameMinimumSize.h"
@@ -72,6 +73,9 @@ void InspectorWindowController::buildWindow() {
 
 PanelView* InspectorWindowController::makeEventPanel() {
     tableView->setModel(&tableModel);
+    delete tableView->selectionModel();
+    tableView->setSelectionModel(
+        new EventSelectionModel(&tableModel, tableView, [this] { commentsView->endComposing(); }));
     QObject::connect(tableView->selectionModel(), &QItemSelectionModel::selectionChanged,
                      &mainWindow, [this] { tableViewSelectionDidChange(); });
     emptyEventsLabel->setAlignment(Qt::AlignCenter);
@@ -105,13 +109,22 @@ void InspectorWindowController::showWholeTexts() {
 
 QWidget* InspectorWindowController::makeToolbar() {
     syncFPSPopup();
-    QObject::connect(fpsPopup, &QComboBox::activated, &mainWindow, [this] { fpsChanged(); });
-    return new ToolbarView({.openTimeline = [this] { openTimeline(); },
-                            .removeSelectedEvent = [this] { removeSelectedEvent(); },
-                            .copySelectedInfo = [this] { copySelectedInfo(); },
-                            .exportCSV = [this] { exportCSV(); },
-                            .exportEDL = [this] { exportEDL(); },
-                            .showHelp = [this] { showHelp(); }},
+    // A click leaves the focus in the comments, and there what is being composed.
+    const auto onceComposed = [this](void (InspectorWindowController::*command)()) {
+        return [this, command] {
+            commentsView->endComposing();
+            (this->*command)();
+        };
+    };
+    using Window = InspectorWindowController;
+    QObject::connect(fpsPopup, &QComboBox::activated, &mainWindow,
+                     onceComposed(&Window::fpsChanged));
+    return new ToolbarView({.openTimeline = onceComposed(&Window::openTimeline),
+                            .removeSelectedEvent = onceComposed(&Window::removeSelectedEvent),
+                            .copySelectedInfo = onceComposed(&Window::copySelectedInfo),
+                            .exportCSV = onceComposed(&Window::exportCSV),
+                            .exportEDL = onceComposed(&Window::exportEDL),
+                            .showHelp = onceComposed(&Window::showHelp)},
                            fpsPopup);
 }
 

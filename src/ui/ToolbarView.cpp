@@ -3,9 +3,7 @@
 
 #include "ui/ToolbarView.h"
 
-#include <QGuiApplication>
 #include <QHBoxLayout>
-#include <QInputMethod>
 #include <QKeyEvent>
 #include <QPushButton>
 
@@ -62,9 +60,6 @@ ToolbarView::ToolbarView(const ToolbarActions& actions, FrameRatePopup* fpsPopup
     layout->setSpacing(spacing);
     const auto addButton = [&](const char* title, const std::function<void()>& action) {
         auto* button = new ToolbarButton(title);
-        // Text that is still being composed counts as typed: the focus stays in its field.
-        connect(button, &QPushButton::pressed, QGuiApplication::inputMethod(),
-                &QInputMethod::commit);
         connect(button, &QPushButton::clicked, this, action);
         layout->addWidget(button);
     };
