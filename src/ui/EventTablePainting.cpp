@@ -6,6 +6,7 @@
 #include <QPainter>
 
 #include "ui/Colours.h"
+#include "ui/ControlPainter.h"
 #include "ui/EventTableView.h"
 
 namespace clipvane {
@@ -28,6 +29,16 @@ void EventTableView::paintRow(QPainter& painter, int row, const QRect& dirty) co
     }
 }
 
+/// Where Left and Right have gone to, while the keyboard is used.
+void EventTableView::paintCurrentCell(QPainter& painter) const {
+    constexpr int radius = 3;
+    const QModelIndex index = currentIndex();
+    if (!index.isValid() || !hasFocus() || !window()->testAttribute(Qt::WA_KeyboardFocusChange))
+        return;
+    const QRect ring = visualRect(index).adjusted(2, 2, -3, -2);  // clear of the line beside it
+    paintBox(painter, ring, radius, Qt::NoBrush, colours::focusRing);
+}
+
 void EventTableView::paintEvent(QPaintEvent* event) {
     QPainter painter(viewport());
     const QRect dirty = event->rect();
@@ -39,6 +50,7 @@ void EventTableView::paintEvent(QPaintEvent* event) {
         const int x = columnLeft(column) + columnWidth(column) - 1;
         painter.fillRect(QRect(x, dirty.top(), 1, dirty.height()), colours::tableGrid);
     }
+    paintCurrentCell(painter);
 }
 
 }  // namespace clipvane

@@ -58,6 +58,7 @@ class EventTableView : public QTableView {
     void keepMinimumWidth(int column, int width);
     void fitLastColumn();
     void paintRow(QPainter& painter, int row, const QRect& dirty) const;
+    void paintCurrentCell(QPainter& painter) const;
 
     /// Shows as much of the header as there is room for. The header is as wide as all its columns
     /// and moves beneath, for assistive technology takes its place for that of the first column.

@@ -3,6 +3,7 @@
 
 #include "ui/FocusRing.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QWidget>
@@ -48,6 +49,10 @@ void FocusRing::show(bool now) {
     for (QWidget* window : QApplication::topLevelWidgets()) {
         window->setAttribute(Qt::WA_KeyboardFocusChange, shown);
         window->update();
+    }
+    // What scrolls has an opaque surface of its own, which that leaves out.
+    if (auto* area = qobject_cast<QAbstractScrollArea*>(QApplication::focusWidget())) {
+        area->viewport()->update();
     }
 }
 

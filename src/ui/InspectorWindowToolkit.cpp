@@ -6,6 +6,7 @@
 #include <QItemSelectionModel>
 #include <QScopeGuard>
 #include <QScopedValueRollback>
+#include <algorithm>
 
 #include "ui/AlertDialog.h"
 #include "ui/AppLog.h"
@@ -57,7 +58,10 @@ void InspectorWindowController::removeRow(std::size_t row, const std::function<v
 
 void InspectorWindowController::showEvent(std::optional<std::size_t> row) {
     emptyEventsLabel->setHidden(!documentModel.events.empty());
-    if (row) tableView->selectRow(static_cast<int>(*row));
+    if (row) {
+        const int column = std::max(tableView->currentIndex().column(), 0);
+        tableView->setCurrentIndex(tableModel.index(static_cast<int>(*row), column));
+    }
     refreshDetails();
 }
 

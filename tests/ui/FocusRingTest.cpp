@@ -66,6 +66,56 @@ TEST_F(FocusRingTest, MouseUsedLast_HidesTheRingUntilTheNextKey) {
     }
 }
 
+/// Counts how often a widget is painted.
+class Paints : public QObject {
+  public:
+    explicit Paints(QWidget* widget) { widget->installEventFilter(this); }
+    int count = 0;
+
+  protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint) ++count;
+        return false;
+    }
+};
+
+TEST_F(FocusRingTest, CurrentCellOfTheList_IsRingedWhileTheKeyboardIsUsed) {
+    open(writeEDL("cut.edl", 3));
+    controller.window()->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(controller.window()));
+    auto& list = *find<EventTableView>();
+    const auto ringed = [&list] {
+        const QImage image = list.viewport()->grab().toImage();
+        QStringList cells;
+        for (int row = 0; row < list.model()->rowCount(); ++row) {
+            for (int column = 0; column < 4; ++column) {
+                const QRect cell = list.visualRect(list.model()->index(row, column));
+                const QColor edge = image.pixelColor(cell.left() + 2, cell.center().y());
+                if (edge == colours::focusRing) cells << QString("%1,%2").arg(row).arg(column);
+            }
+        }
+        return cells.join(' ').toStdString();
+    };
+    list.setFocus();
+    pressKey(Qt::Key_Right);
+    EXPECT_EQ(ringed(), "0,1");
+    pressKey(Qt::Key_Down);
+    pressKey(Qt::Key_Right);
+    EXPECT_EQ(ringed(), "1,2");
+    click("Remove Event");
+    pressKey(Qt::Key_Escape);
+    EXPECT_EQ(ringed(), "1,2") << "the row after it, in the same column";
+    QCoreApplication::processEvents();
+    const Paints paints(list.viewport());
+    clickBeside();
+    EXPECT_EQ(ringed(), "");
+    EXPECT_GT(paints.count, 1) << "the screen shows it as well as the picture taken for the test";
+    pressKey(Qt::Key_Escape);
+    EXPECT_EQ(ringed(), "1,2");
+    pressKey(Qt::Key_Tab);
+    EXPECT_EQ(ringed(), "");
+}
+
 TEST_F(FocusRingTest, WindowMadeAfterTheMouseWasUsed_HasNoRing) {
     const auto ringed = [] {
         QWidget window;
