@@ -108,9 +108,9 @@ void DocumentCommands::fpsChanged() {
         documentModel.fpsSource = fpsSourceManual;
         alert = &noMemory.toShow;
 
+        refreshTexts();
         setStatus(convertedStatus(converted, earlier, *fps));
         syncFPSPopup();
-        refreshTexts();
     } catch (...) {
         tellLackOfMemory(*alert);
         ifMemoryAllows([&] { syncFPSPopup(); });

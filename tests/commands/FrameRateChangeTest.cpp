@@ -40,8 +40,9 @@ class FrameRateChange : public testing::Test {
 TEST_F(FrameRateChange, OtherRate_StepByStep) {
     choose("24 fps");
     EXPECT_THAT(commands.calls,
-                ElementsAre("busy", "idle", "status: Converted 48 timecodes from 25 fps to 24 fps.",
-                            "pop-up: 24 fps, Manual", "texts: 12"));
+                ElementsAre("busy", "idle", "texts: 12",
+                            "status: Converted 48 timecodes from 25 fps to 24 fps.",
+                            "pop-up: 24 fps, Manual"));
     EXPECT_EQ(commands.selection, 3U);
 }
 
@@ -72,8 +73,9 @@ TEST_F(FrameRateChange, CurrentRate_NothingConvertedButManual) {
     EXPECT_EQ(event(0).sourceIn, "1:2:3:4");
     EXPECT_EQ(commands.document().fpsSource, "Manual");
     EXPECT_THAT(commands.calls,
-                ElementsAre("busy", "idle", "status: Converted 0 timecodes from 25 fps to 25 fps.",
-                            "pop-up: 25 fps, Manual", "texts: 12"));
+                ElementsAre("busy", "idle", "texts: 12",
+                            "status: Converted 0 timecodes from 25 fps to 25 fps.",
+                            "pop-up: 25 fps, Manual"));
 }
 
 TEST_F(FrameRateChange, RatesWithinATenThousandth_AreTheSame) {
@@ -122,7 +124,7 @@ TEST_F(FrameRateChange, RemovedEvents_KeepTheirTimecodes) {
 TEST_F(FrameRateChange, FromAnUnusualRate_ThePopUpIsToldTheChosenOne) {
     commands.documentModel.fps = 12.5;
     choose("25 fps");
-    EXPECT_EQ(commands.calls[3], "pop-up: 25 fps, Manual");
+    EXPECT_EQ(commands.calls[4], "pop-up: 25 fps, Manual");
     EXPECT_EQ(commands.status, "Converted 48 timecodes from 12.5 fps to 25 fps.");
 }
 
