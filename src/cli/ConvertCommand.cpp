@@ -27,7 +27,7 @@ std::string edlName(const Input& input) {
 class ConvertCommand : public Command {
   public:
     std::string name() const override { return "convert"; }
-    std::string summary() const override { return "write timelines as EDLs"; }
+    std::string summary() const override { return "write timelines as EDLs of cuts"; }
     std::string examples() const override {
         return "  clipvane-cli convert -o cut.edl cut.fcpxml\n"
                "  clipvane-cli convert --fps 25 --to 24 -d at24 *.edl\n"
