@@ -148,7 +148,7 @@ Findings edlFindings(std::string_view bytes) {
     const std::string text = replaceInvalidUTF8(bytes);
     Findings found = LineWalk(text).findings();
     found.push_back({"invalid-utf-8", Weight::suspicious, lineAt(bytes, valid), std::nullopt,
-                     "it is not UTF-8 from here on; U+FFFD is read for what is not"});
+                     "from this line on not all is UTF-8; what is not is read as U+FFFD"});
     return found;
 }
 
