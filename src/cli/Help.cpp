@@ -21,7 +21,7 @@ constexpr const char* rates =
 
 constexpr const char* statuses =
     "Status: 0 all well; 1 a file failed, and the others are done; 2 wrong use;\n"
-    "3 something is suspicious, with --strict.";
+    "3 with --strict: check found something suspicious, diff a change.";
 
 /// The library's, but for its head.
 class Formatter : public CLI::Formatter {
@@ -33,6 +33,10 @@ class Formatter : public CLI::Formatter {
     std::string make_usage(const CLI::App* /*app*/, std::string /*name*/) const override {
         return "\nUsage: " + usage + "\n";
     }
+    /// Of what stands without an option the usage has told how many there are.
+    std::string make_option_opts(const CLI::Option* option) const override {
+        return option->get_positional() ? "" : CLI::Formatter::make_option_opts(option);
+    }
 
   private:
     std::string about;
@@ -42,13 +46,16 @@ class Formatter : public CLI::Formatter {
 void explain(CLI::App& app, const std::string& summary, const std::string& usage) {
     auto formatter = std::make_shared<Formatter>(summary + ".\n\n" + rates, usage);
     formatter->label("REQUIRED", "");
+    formatter->label("Positionals", "Arguments");
     app.formatter(formatter);
 }
 
-/// The one option without dashes.
+/// The one option without dashes: one name stands for several, "OLD NEW" for two.
 std::string namesOf(const CLI::App& app) {
     for (const CLI::Option* option : app.get_options()) {
-        if (option->get_positional()) return option->get_name(true) + "...";
+        if (!option->get_positional()) continue;
+        const std::string name = option->get_name(true);
+        return name.find(' ') == std::string::npos ? name + "..." : name;
     }
     return {};
 }
@@ -56,7 +63,8 @@ std::string namesOf(const CLI::App& app) {
 }  // namespace
 
 void explain(CLI::App& program) {
-    explain(program, "Lists, converts, checks and stamps edit timelines: EDL, XMEML and FCPXML",
+    explain(program,
+            "Lists, converts, checks, stamps and compares edit timelines: EDL, XMEML and FCPXML",
             "clipvane-cli COMMAND [OPTIONS] TIMELINE...");
     program.footer(std::string(statuses) +
                    "\nclipvane-cli COMMAND --help tells more about each, with examples.");

@@ -35,6 +35,7 @@ void addFolderOption(CLI::App& app, OutputOptions& options, const std::string& d
 }
 
 void addInPlaceOption(CLI::App& app, OutputOptions& options) {
+    options.offersInPlace = true;
     app.add_flag("--in-place", options.inPlace, "replace the files themselves");
 }
 

@@ -22,6 +22,7 @@ struct OutputOptions {
     std::string file;      ///< of -o, as the user wrote it; else empty
     std::string folder;    ///< of -d; else empty
     bool inPlace = false;  ///< the inputs themselves
+    bool offersInPlace = false;  ///< whether the command has that option
     bool force = false;
 
     AtomicFile::Existing existing() const {

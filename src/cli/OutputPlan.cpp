@@ -81,8 +81,14 @@ std::optional<std::string> misuseOf(const OutputOptions& options,
     const int places = static_cast<int>(!options.file.empty()) +
                        static_cast<int>(!options.folder.empty()) +
                        static_cast<int>(options.inPlace);
-    if (places == 0) return "there is no word of where the output goes: say -o or -d";
-    if (places > 1) return "-o, -d and --in-place exclude each other";
+    if (places == 0) {
+        return std::string("say where the output goes: ") +
+               (options.offersInPlace ? "-o, -d or --in-place" : "-o or -d");
+    }
+    if (places > 1) {
+        return std::string(options.offersInPlace ? "-o, -d and --in-place" : "-o and -d") +
+               " exclude each other";
+    }
     if (!options.file.empty()) {
         if (inputs.size() > 1) return "-o is for one file: say -d for several";
         return std::nullopt;

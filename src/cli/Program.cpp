@@ -4,10 +4,12 @@
 #include "cli/Program.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <memory>
 #include <new>
 #include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "cli/Commands.h"
@@ -18,25 +20,76 @@
 namespace clipvane::cli {
 namespace {
 
+std::vector<const CLI::App*> commandsOf(const CLI::App& app) {
+    return app.get_subcommands([](const CLI::App*) { return true; });
+}
+
+/// Whether one of the commands has an option of that name which takes a value.
+bool takesValue(const CLI::App& app, const std::string& name) {
+    return std::ranges::any_of(commandsOf(app), [&](const CLI::App* command) {
+        const CLI::Option* const option = command->get_option_no_throw(name);
+        return option != nullptr && option->get_items_expected_max() > 0;
+    });
+}
+
 /// The library reads signs of its own into some names.
-std::string asArgument(const std::string& argument) {
-    const bool isSign = argument == "++" || (argument.starts_with('[') && argument.ends_with(']'));
-    return isSign ? "./" + argument : argument;
+bool isSign(const std::string& name) {
+    return name == "++" || (name.starts_with('[') && name.ends_with(']'));
 }
 
-/// The library takes them from the back.
-std::vector<std::string> arguments(int argc, const char* const* argv) {
-    std::vector<std::string> reversed;
-    for (int i = argc - 1; i > 0; --i) reversed.push_back(asArgument(argv[i]));
-    return reversed;
-}
-
-/// One line, as messages are.
-std::string oneLine(std::string text) {
-    for (char& c : text) {
-        if (c == '\n') c = ' ';
+/// As the library wants them, the last first, and without "--": it takes what follows only while
+/// it has no name yet.
+std::vector<std::string> arguments(const CLI::App& app, int argc, const char* const* argv) {
+    std::vector<std::string> all;
+    bool isBehindOptions = false;
+    for (int i = 1; i < argc; ++i) {
+        std::string argument = argv[i];
+        const bool isOptionLike = argument.size() > 1 && argument.starts_with('-');
+        if (isBehindOptions) {
+            if (isOptionLike || isSign(argument)) argument.insert(0, "./");
+        } else if (argument == "--") {
+            isBehindOptions = true;
+            continue;
+        } else if (isSign(argument) && !takesValue(app, argv[i - 1])) {
+            argument.insert(0, "./");
+        }
+        all.push_back(std::move(argument));
     }
-    return text;
+    std::ranges::reverse(all);
+    return all;
+}
+
+std::string namesOf(const CLI::App& app) {
+    std::string names;
+    const auto commands = commandsOf(app);
+    for (const CLI::App* command : commands) {
+        if (command != commands.front()) names += command == commands.back() ? " or " : ", ";
+        names += command->get_name();
+    }
+    return names;
+}
+
+/// The words for arguments that the library cannot parse, where its own would not help.
+std::string wordsFor(const CLI::ParseError& error, const CLI::App& app) {
+    const std::string words = error.what();
+    const auto rest = app.remaining(true);
+    if (dynamic_cast<const CLI::RequiredError*>(&error) && app.get_subcommands().empty()) {
+        return (rest.empty() ? "a command is missing" : "\"" + rest.front() + "\" is no command") +
+               ": say " + namesOf(app);
+    }
+    if (dynamic_cast<const CLI::ArgumentMismatch*>(&error)) {
+        const bool isMissing = words.ends_with("missing");
+        return words.substr(0, words.find(':')) +
+               (isMissing ? " needs a value" : " is given more than once");
+    }
+    if (dynamic_cast<const CLI::ExtrasError*>(&error)) return "there is no option " + rest.front();
+    return words;
+}
+
+std::string misuse(const CLI::ParseError& error, const CLI::App& app) {
+    const auto commands = app.get_subcommands();
+    const std::string command = commands.empty() ? "" : commands.front()->get_name() + " ";
+    return wordsFor(error, app) + "; see clipvane-cli " + command + "--help";
 }
 
 /// What --help and --version print.
@@ -64,6 +117,7 @@ Status run(int argc, const char* const* argv, Session& session) {
     Command* chosen = nullptr;
     for (const auto& command : commands) {
         CLI::App* const sub = app.add_subcommand(command->name(), command->summary());
+        sub->group("Commands");
         addHelpAndQuiet(*sub, quiet);
         command->addOptions(*sub);
         explain(*sub, *command);
@@ -71,10 +125,10 @@ Status run(int argc, const char* const* argv, Session& session) {
     }
 
     try {
-        app.parse(arguments(argc, argv));
+        app.parse(arguments(app, argc, argv));
     } catch (const CLI::ParseError& asked) {
         if (asked.get_exit_code() != 0) {
-            return session.wrongUse(oneLine(asked.what()) + "; see clipvane-cli --help");
+            return session.wrongUse(misuse(asked, app));
         }
         const auto written = writeOutput("-", AtomicFile::Existing::keep, answer(app, asked));
         if (!written) session.fail("standard output", written.error());

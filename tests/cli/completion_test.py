@@ -15,7 +15,7 @@ ZSH = TREE / "packaging" / "completions" / "_clipvane-cli"
 
 
 def commands():
-    return re.findall(r"^  ([a-z]+) ", run("--help").text.split("Subcommands:")[1].split("\n\n")[0],
+    return re.findall(r"^  ([a-z]+) ", run("--help").text.split("Commands:")[1].split("\n\n")[0],
                       re.MULTILINE)
 
 

@@ -241,6 +241,15 @@ class Inputs(ProgramTest):
                 shown = name.decode("utf-8", "replace")
                 self.assertIn(json.loads(done.text)["file"], (shown, "./" + shown))
 
+    def test_names_behind_the_options(self):
+        for name in ("a.edl", "-x.edl", "--fps", "[y]", "++", "--"):
+            self.put(name, NAMED)
+        done = self.run_program("list", "-f", "jsonl", "a.edl", "--from", "edl", "--", "-x.edl", "--fps", "[y]",
+                                "++", "--", "-", stdin=NAMED.encode())
+        self.assertEqual((done.status, done.said), (OK, ""))
+        self.assertEqual([json.loads(line)["file"] for line in done.text.splitlines()],
+                         ["a.edl", "./-x.edl", "./--fps", "./[y]", "./++", "./--", "-"])
+
     def test_what_cannot_be_read(self):
         self.put("cut.edl", NAMED)
         (self.folder / "folder.edl").mkdir()

@@ -30,6 +30,29 @@ class Options(ProgramTest):
                 self.assertEqual((done.status, done.text), (WRONG_USE, ""), done.said)
                 self.assertRegex(done.said, r"\Aclipvane-cli: [^\n]+\n\Z")
 
+    def test_words_for_wrong_use(self):
+        commands = "list, convert, check, stamp or diff; see clipvane-cli --help"
+        for arguments, words in [
+                ([], "a command is missing: say " + commands),
+                (["paint", "a.edl"], '"paint" is no command: say ' + commands),
+                (["list"], "TIMELINE is required; see clipvane-cli list --help"),
+                (["list", "--fps", "24", "--fps", "25", "a.edl"],
+                 "--fps is given more than once; see clipvane-cli list --help"),
+                (["list", "a.edl", "-o"], "--output needs a value; see clipvane-cli list --help"),
+                (["check", "--bold", "a.edl", "--thin"],
+                 "there is no option --bold; see clipvane-cli check --help"),
+                (["--bold", "check", "a.edl"], "there is no option --bold; see clipvane-cli check --help"),
+                (["list", "--fps", "[25]", "a.edl"], '--fps: "[25]" is no rate: say 25, 23.976 or 24000/1001; '
+                 "above 0 and at most 1000; see clipvane-cli list --help"),
+                (["convert", "a.edl"], "say where the output goes: -o or -d"),
+                (["stamp", "--fps", "25", "a.edl"], "say where the output goes: -o, -d or --in-place"),
+                (["convert", "-o", "x", "-d", "y", "a.edl"], "-o and -d exclude each other"),
+                (["stamp", "--fps", "25", "-o", "x", "--in-place", "a.edl"],
+                 "-o, -d and --in-place exclude each other")]:
+            with self.subTest(arguments=arguments):
+                done = self.run_program(*arguments)
+                self.assertEqual((done.status, done.said), (WRONG_USE, f"clipvane-cli: {words}\n"))
+
     def test_help_and_version_are_data(self):
         for arguments in (["--help"], ["-h"], ["list", "--help"]):
             done = self.run_program(*arguments)
