@@ -24,6 +24,7 @@
 #include "commands/diff/CutDiff.h"
 #include "commands/diff/DiffLines.h"
 #include "commands/diff/DiffTable.h"
+#include "commands/diff/TextNumbers.h"
 
 namespace clipvane::cli {
 namespace {
@@ -102,9 +103,12 @@ class DiffCommand : public Command {
         const auto chosenBy = by.empty() ? std::nullopt : std::optional(byCalled(by));
         const auto comparison = diff::compareCuts(oldList, newList, chosenBy, tracks);
         for (const std::string& track : tracks) {
-            if (std::ranges::find(comparison.tracks, track) == comparison.tracks.end()) {
-                return tl::unexpected(because("neither list has a track \"" + track + "\""));
+            if (diff::findTrack(comparison.tracks, track)) continue;
+            if (!comparison.comparesTracks) {
+                return tl::unexpected(
+                    because("the lists have no track in common, so that none can be chosen"));
             }
+            return tl::unexpected(because("neither list has a track \"" + track + "\""));
         }
         isSame = comparison.sums.areSame();
         const diff::Compared compared{comparison, oldList, newList};
@@ -121,10 +125,9 @@ class DiffCommand : public Command {
             return tl::unexpected(
                 because("a change list is of one track, and the lists have several: say --track"));
         }
-        const auto track =
-            tracks.empty() ? 0 : std::ranges::find(all, tracks.front()) - all.begin();
-        return diff::changeList(compared, static_cast<std::uint32_t>(track),
-                                decimalOf(compared.newList.counting.fps));
+        const std::uint32_t track =
+            tracks.empty() ? 0 : diff::findTrack(all, tracks.front()).value_or(0);
+        return diff::changeList(compared, track, decimalOf(compared.newList.counting.fps));
     }
 
     std::string table(const diff::Compared& compared) const {
@@ -169,7 +172,7 @@ class DiffCommand : public Command {
             const auto& before = compared.oldList.events[oldRow];
             const auto& now = compared.newList.events[event.row];
             const auto name = diff::givenName(now.clipName, now.eventNumber);
-            return !name.empty() && name == before.clipName;
+            return !name.empty() && diff::areEquivalent(name, before.clipName);
         });
     }
 

@@ -101,15 +101,15 @@ std::optional<std::string> refusal(const Side& a, const Side& b, const ReadingOp
     return std::nullopt;
 }
 
-/// What the list alone makes surprising: what it lacks reads as `word` in the other.
-void note(const Side& side, const std::string& word, const ReadingOptions& options,
-          Session& session) {
+/// What makes the result surprising: what the list lacks reads as `word` in the other.
+void note(const Side& side, const Side& other, const std::string& word,
+          const ReadingOptions& options, Session& session) {
     noteRate(side.timeline, side.title, options, session);
     if (side.brokenIn) {
         session.note(side.title + " breaks off in line " + std::to_string(*side.brokenIn) +
                      ": what it lacks reads as " + word);
     }
-    if (side.document().events.empty()) {
+    if (side.document().events.empty() && !other.document().events.empty()) {
         session.note(side.title + " has no event: all of the other list reads as " + word);
     }
 }
@@ -132,8 +132,8 @@ std::unique_ptr<DiffInputs> readForDiff(const Input& oldInput, const Input& newI
         session.fail(*reason);
         return nullptr;
     }
-    note(*oldSide, "new", options, session);
-    note(*newSide, "gone", options, session);
+    note(*oldSide, *newSide, "new", options, session);
+    note(*newSide, *oldSide, "gone", options, session);
     const auto converted = possibly([&]() -> Result<void> {
         if (!options.to) return {};
         convert(oldSide->document(), *options.to);

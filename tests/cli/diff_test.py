@@ -221,6 +221,10 @@ class Uses(ProgramTest):
             Row("a namesake", ["diff", "--fps", "25", "old.edl", "new.edl"],
                 files={"old.edl": A + B + named, "new.edl": A + B.replace("B ", "B2 ") + named},
                 holds=["in place of 2"], said=["--by name may find it"]),
+            Row("a namesake in another spelling", ["diff", "--fps", "25", "old.edl", "new.edl"],
+                files={"old.edl": A + B + "* FROM CLIP NAME: Pr\u00EAt\n",
+                       "new.edl": A + B.replace("B ", "B2 ") + "* FROM CLIP NAME: Pre\u0302t\n"},
+                holds=["in place of 2"], said=["--by name may find it"]),
             Row("found by name", ["diff", "--fps", "25", "--by", "name", "old.edl", "new.edl"],
                 files={"old.edl": A + B + named, "new.edl": A + B.replace("B ", "B2 ") + named},
                 holds=["Events: 2 same."]),
@@ -233,7 +237,10 @@ class Uses(ProgramTest):
                 said=["b.xml breaks off", "by name"]),
             Row("no events", ["diff", "--fps", "25", "old.edl", "none.edl"],
                 files={"old.edl": A, "none.edl": "TITLE: none\n"}, holds=["1 gone"],
-                said=["none.edl has no event: all of the other list reads as gone"])])
+                said=["none.edl has no event: all of the other list reads as gone"]),
+            Row("no events in either", ["diff", "--fps", "25", "none.edl", "none.edl"],
+                files={"none.edl": "TITLE: none\n"}, output="Events: none. Frames: 0 kept, 0 new, "
+                "0 again, 0 gone, 0 fewer. The cut is as long as it was.\n")])
 
     def test_tracks_are_chosen_after_the_pairing(self):
         sound = B.replace(" V ", " A ")
@@ -245,6 +252,24 @@ class Uses(ProgramTest):
         done = self.run_program("diff", "--fps", "25", "-f", "edl", "old.edl", "new.edl")
         self.assertEqual(done.status, FAILED)
         self.assertIn("say --track", done.said)
+
+    def test_a_track_is_chosen_in_any_spelling(self):
+        composed, decomposed = "Pr\u00EAt", "Pre\u0302t"
+        sound = B.replace(" V ", f" {composed} ")
+        self.put("old.edl", A + sound)
+        self.put("new.edl", A + sound)
+        for format_ in ("table", "edl"):
+            done = self.run_program("diff", "--fps", "25", "-f", format_, "--track", decomposed,
+                                    "old.edl", "new.edl")
+            self.assertEqual((done.status, done.said), (OK, ""))
+        self.assertIn(f"OLDCUT {composed} C        00:00:02:00 00:00:04:00", done.text)
+
+    def test_no_track_is_chosen_where_none_is_compared(self):
+        self.put("old.edl", A)
+        self.put("new.edl", A.replace(" V ", " V9 "))
+        done = self.run_program("diff", "--fps", "25", "--track", "V", "old.edl", "new.edl")
+        self.assertEqual(done.status, FAILED)
+        self.assertIn("no track in common", done.said)
 
     def test_every_list_is_the_same_as_itself(self):
         for path in fixtures():

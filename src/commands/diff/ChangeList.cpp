@@ -24,6 +24,11 @@ bool hasFrames(Kind kind) {
     return kind == Kind::plain || kind == Kind::whole;
 }
 
+/// Black that both lists have can make a stretch longer than any event.
+std::int64_t lengthOf(const ChangeStretch& stretch) {
+    return subtractChecked(stretch.to, stretch.from);
+}
+
 /// What the events of a track cover in record time.
 template <class Event>
 Coverage recordCoverage(const std::vector<Event>& events, std::uint32_t track) {
@@ -161,8 +166,8 @@ class Writer {
         text += ' ';
         text += diff.comparesTracks ? diff.tracks[track] : "V";
         text += " C        " + at(stretch.oldFrom) + ' ' +
-                at(addChecked(stretch.oldFrom, stretch.to - stretch.from)) + ' ' +
-                at(stretch.from) + ' ' + at(stretch.to) + '\n';
+                at(addChecked(stretch.oldFrom, lengthOf(stretch))) + ' ' + at(stretch.from) + ' ' +
+                at(stretch.to) + '\n';
     }
 
     void addComment(const ChangeStretch& part) {
@@ -184,7 +189,7 @@ std::vector<ChangeStretch> changeStretches(const CutDiff& diff, std::uint32_t tr
     const Coverage oldCoverage = recordCoverage(diff.oldEvents, track);
     const Coverage newCoverage = recordCoverage(diff.newEvents, track);
     const auto isBlackInBoth = [&](const ChangeStretch& a, const ChangeStretch& b) {
-        const std::int64_t oldEnd = addChecked(a.oldFrom, a.to - a.from);
+        const std::int64_t oldEnd = addChecked(a.oldFrom, lengthOf(a));
         return newCoverage.within({0, a.to, b.from}) == 0 &&
                oldCoverage.within({0, oldEnd, b.oldFrom}) == 0;
     };

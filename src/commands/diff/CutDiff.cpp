@@ -89,10 +89,9 @@ std::vector<PairedStretch> pairedStretches(const CutPair& pair, const std::vecto
 }
 
 std::vector<bool> chosen(const CutPair& pair, const std::vector<std::string>& onlyTracks) {
-    std::vector<bool> isChosen;
-    for (const std::string& track : pair.tracks) {
-        isChosen.push_back(onlyTracks.empty() ||
-                           std::ranges::find(onlyTracks, track) != onlyTracks.end());
+    std::vector<bool> isChosen(pair.tracks.size(), onlyTracks.empty());
+    for (const std::string& text : onlyTracks) {
+        if (const auto track = findTrack(pair.tracks, text)) isChosen[*track] = true;
     }
     return isChosen;
 }

@@ -179,6 +179,14 @@ By usualBy(const CutList& oldList, const CutList& newList) {
 
 }  // namespace
 
+std::optional<std::uint32_t> findTrack(const std::vector<std::string>& tracks,
+                                       std::string_view text) {
+    const auto found = std::ranges::find_if(
+        tracks, [&](const std::string& track) { return areEquivalent(track, text); });
+    if (found == tracks.end()) return std::nullopt;
+    return static_cast<std::uint32_t>(found - tracks.begin());
+}
+
 CutPair makeComparable(const CutList& oldList, const CutList& newList, std::optional<By> by) {
     return PairMaker(oldList, newList, by.value_or(usualBy(oldList, newList))).make();
 }

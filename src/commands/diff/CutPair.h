@@ -3,8 +3,10 @@
 
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "commands/diff/CutEvent.h"
@@ -23,6 +25,10 @@ struct CutPair {
     bool comparesTracks = true;       ///< false when the lists have no track text in common
     std::vector<std::string> tracks;  ///< the text of each track's number, by NEW, then OLD
 };
+
+/// Which of the tracks `text` means; nothing when none has a text equivalent to it.
+std::optional<std::uint32_t> findTrack(const std::vector<std::string>& tracks,
+                                       std::string_view text);
 
 /// Takes what is comparable from two lists. Without `by` it is the reel if both are EDLs, else the
 /// name. A reel that says nothing is told apart by the name as well: "AX", an empty one, and one

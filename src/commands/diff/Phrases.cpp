@@ -59,8 +59,11 @@ std::string speed(const Times& times) {
 
 /// The frames that a trim has added.
 std::int64_t trimmedLonger(const NewEvent& event) {
-    return std::max<std::int64_t>(event.head, 0) + std::max<std::int64_t>(event.tail, 0) +
-           std::max<std::int64_t>(event.inside, 0);
+    std::int64_t longer = 0;
+    for (const std::int64_t trim : {event.head, event.tail, event.inside}) {
+        longer = addChecked(longer, std::max<std::int64_t>(trim, 0));
+    }
+    return longer;
 }
 
 /// How many of its frames are new, again or elsewhere, where the words do not tell.

@@ -30,6 +30,10 @@ std::uint32_t TextNumbers::of(std::string_view text) {
     return isASCII(text) ? numberOf(text) : numberOf(normalized(text));
 }
 
+bool areEquivalent(std::string_view a, std::string_view b) {
+    return a == b || normalized(a) == normalized(b);
+}
+
 std::uint32_t TextNumbers::numberOf(std::string_view text) {
     if (const auto found = numbers.find(text); found != numbers.end()) return found->second;
     const auto next = static_cast<std::uint32_t>(numbers.size());

@@ -27,4 +27,7 @@ class TextNumbers {
     std::unordered_map<std::string, std::uint32_t, Hash, std::equal_to<>> numbers{{"", 0}};
 };
 
+/// Whether two texts, in UTF-8, are canonically equivalent.
+bool areEquivalent(std::string_view a, std::string_view b);
+
 }  // namespace clipvane::diff

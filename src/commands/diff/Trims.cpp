@@ -54,7 +54,8 @@ class Finder {
         Reach reach;
         for (const Partnership& part : partners.ofNew(n)) {
             if (part.isRetimed) return;
-            trims[n].inside += reach.add(oldCut[part.oldEvent], part.oldEvent);
+            const std::int64_t gap = reach.add(oldCut[part.oldEvent], part.oldEvent);
+            trims[n].inside = addChecked(trims[n].inside, gap);
         }
         lastPart[n] = reach.furthestPiece();
     }
