@@ -4,7 +4,9 @@
 #include "commands/diff/ReportOrder.h"
 
 #include <algorithm>
+#include <optional>
 #include <tuple>
+#include <utility>
 
 namespace clipvane::diff {
 namespace {
@@ -42,21 +44,34 @@ std::vector<std::vector<Index>> lostBySlot(const std::vector<Index>& track, cons
     return slots;
 }
 
-/// Which slot of the chain each event of NEW that is not on it falls into.
+/// Where on a chain each event of NEW stands.
 class Slots {
   public:
     explicit Slots(const std::vector<Link>& chain) {
-        for (const Link& link : chain) events.push_back(link.event);
+        for (std::size_t i = 0; i < chain.size(); ++i) events.emplace_back(chain[i].event, i);
         std::ranges::sort(events);
     }
 
-    bool isOnChain(Index event) const { return std::ranges::binary_search(events, event); }
+    /// How many events of the chain stand before it.
     std::size_t of(Index event) const {
-        return static_cast<std::size_t>(std::ranges::lower_bound(events, event) - events.begin());
+        return static_cast<std::size_t>(firstFrom(event) - events.begin());
+    }
+
+    /// Its index on the chain.
+    std::optional<std::size_t> onChain(Index event) const {
+        const auto found = firstFrom(event);
+        if (found == events.end() || found->first != event) return std::nullopt;
+        return found->second;
     }
 
   private:
-    std::vector<Index> events;
+    using Member = std::pair<Index, std::size_t>;  // event, index on the chain
+
+    std::vector<Member>::const_iterator firstFrom(Index event) const {
+        return std::ranges::lower_bound(events, event, {}, &Member::first);
+    }
+
+    std::vector<Member> events;
 };
 
 }  // namespace
@@ -71,7 +86,7 @@ void findReplacements(const Cut& oldCut, const std::vector<TrackChain>& chains,
         const Slots slots(chain);
         std::vector<std::vector<Index>> others(chain.size() + 1);
         for (const Index n : newByTrack[track]) {
-            const bool isOther = !slots.isOnChain(n) && !newEvents[n].words.has(Word::notCompared);
+            const bool isOther = !slots.onChain(n) && !newEvents[n].words.has(Word::notCompared);
             if (isOther) others[slots.of(n)].push_back(n);
         }
         for (std::size_t slot = 0; slot < lost.size(); ++slot) {
@@ -102,7 +117,6 @@ std::vector<ReportLine> makeReport(const Cut& oldCut, const std::vector<TrackCha
             for (const Index o : lost[slot]) lines.push_back({Kind::lost, track, o, order, 0});
         };
         addLost(0);
-        std::size_t passed = 0;
         for (const Index n : newByTrack[track]) {
             ++order;
             for (; change != changes.end() && change->before == n; ++change) {
@@ -111,7 +125,7 @@ std::vector<ReportLine> makeReport(const Cut& oldCut, const std::vector<TrackCha
             const Words words = newEvents[n].words;
             const bool hasLine = !words.has(Word::same) && !words.has(Word::notCompared);
             if (hasLine) lines.push_back({Kind::event, track, n, order, 0});
-            if (slots.isOnChain(n)) addLost(++passed);
+            if (const auto i = slots.onChain(n)) addLost(*i + 1);
         }
     }
     return lines;

@@ -5,6 +5,7 @@
 
 #include <utility>
 
+#include "commands/diff/DiffTable.h"
 #include "timecode/Timecode.h"
 
 namespace clipvane::test {
@@ -64,6 +65,21 @@ std::string describe(const diff::OldEvent& event) {
     return words + " (" + text(event.goneFrames) + ' ' + text(event.fewerFrames) + ')';
 }
 
+/// The first four columns of the report, as the judge gives them.
+std::string lineOf(const diff::TableRow& row) {
+    const auto& [track, oldRow, newRow, change, oldRecord, newRecord, source, reel, name] = row;
+    const bool isGroup = change.find(" events ") != std::string::npos;
+    const bool isBlack = oldRow.empty() && newRow.empty();
+    return track + '|' + oldRow + '|' + newRow + '|' + (isGroup || isBlack ? change : "");
+}
+
+std::string spelled(std::string text, std::size_t row) {
+    constexpr std::string_view composed = "\u00E9";
+    const std::size_t at = text.find(composed);
+    if (row % 2 == 1 && at != std::string::npos) text.replace(at, composed.size(), "e\u0301");
+    return text;
+}
+
 }  // namespace
 
 Row cut(std::string reel, std::int64_t sourceIn, std::int64_t sourceOut, std::int64_t recordIn,
@@ -95,8 +111,8 @@ diff::Events eventsOf(const std::vector<JudgedEvent>& judged) {
     for (const JudgedEvent& from : judged) {
         TimelineEvent event;
         event.eventNumber = from.number;
-        event.clipName = from.name;
-        event.reelID = from.reel;
+        event.clipName = spelled(from.name, events.size());
+        event.reelID = spelled(from.reel, events.size());
         event.track = from.track;
         event.sourceIn = from.texts[0];
         event.sourceOut = from.texts[1];
@@ -118,16 +134,15 @@ diff::CutDiff compare(const std::vector<Row>& oldRows, const std::vector<Row>& n
     return diff::compareCuts({oldEvents, at25}, {newEvents, at25});
 }
 
-CutVerdict verdictOf(const diff::CutDiff& diff, std::size_t oldCount, std::size_t newCount) {
+CutVerdict verdictOf(const diff::Compared& compared) {
+    const diff::CutDiff& diff = compared.diff;
     CutVerdict verdict;
-    verdict.oldRows.resize(oldCount);
-    verdict.newRows.resize(newCount);
+    verdict.oldRows.resize(compared.oldList.events.size());
+    verdict.newRows.resize(compared.newList.events.size());
     for (const auto& event : diff.newEvents) verdict.newRows[event.row] = describe(event, diff);
     for (const auto& event : diff.oldEvents) verdict.oldRows[event.row] = describe(event);
-    for (const auto& line : diff.report) {
-        if (line.kind != diff::ReportLine::Kind::black) continue;
-        verdict.black.push_back("before " + text(diff.newEvents[line.event].row) + ": " +
-                                text(line.longer));
+    for (const auto& row : diff::tableRows(compared, diff::Detail::usual)) {
+        verdict.lines.push_back(lineOf(row));
     }
     const diff::Sums& s = diff.sums;
     verdict.sums = "kept " + text(s.kept) + ' ' + text(s.keptInOld) + " new " + text(s.added) +

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "commands/diff/CutDiff.h"
+#include "commands/diff/Phrases.h"
 #include "judges/CutJudge.h"
 #include "model/TimelineEvent.h"
 
@@ -38,13 +39,14 @@ diff::Events eventsOf(const std::vector<Row>& rows);
 /// The rows for the judge.
 std::vector<JudgedEvent> judgedOf(const std::vector<Row>& rows);
 
-/// The same events for the program and for the judge.
+/// The judge's events for the program. Reels and names in odd rows are spelled with combining
+/// marks, which must make no difference.
 diff::Events eventsOf(const std::vector<JudgedEvent>& judged);
 
 diff::CutDiff compare(const std::vector<Row>& oldRows, const std::vector<Row>& newRows);
 
-/// A comparison in the judge's words.
-CutVerdict verdictOf(const diff::CutDiff& diff, std::size_t oldCount, std::size_t newCount);
+/// A comparison in the judge's words, but for the stretches.
+CutVerdict verdictOf(const diff::Compared& compared);
 
 /// The report line by line, with rows counted from 1: "X new, in place of 3", "black 10 longer".
 std::vector<std::string> reportOf(const diff::CutDiff& diff, const diff::Events& oldEvents,

@@ -73,13 +73,18 @@ class Editor {
         }
     }
 
+    static void lineUpAgain(std::vector<Row>& rows) {
+        for (Row& row : rows) row.recordIn = 0;
+        lineUp(rows);
+    }
+
     void make(Edited& made) {
         for (Row& row : shots) row.recordIn = 0;
         Row& row = shots[at];
         const auto position = shots.begin() + static_cast<std::ptrdiff_t>(at);
         const std::int64_t length = lengthOf(row);
         const std::int64_t n = number(1, 10);
-        switch (random.below(11)) {
+        switch (random.below(12)) {
             case 0:
                 shots.insert(position, shot("NEW"));
                 made.newWords["NEW"] = {"new"};
@@ -105,7 +110,7 @@ class Editor {
             case 5: {  // the longer of two stays on the chain, and nothing else is moved
                 Row& next = *(position + 1);
                 if (lengthOf(next) == length) ++next.sourceOut, ++made.oldRows[at + 1].sourceOut;
-                lineUp(made.oldRows);
+                lineUpAgain(made.oldRows);
                 const bool isShorter = length < lengthOf(next);
                 made.newWords[(isShorter ? row : next).reel] = {"moved"};
                 std::swap(row, next);
@@ -125,8 +130,7 @@ class Editor {
                 first.sourceOut = second.sourceIn = first.sourceIn + length / 2;
                 made.oldRows.insert(made.oldRows.begin() + static_cast<std::ptrdiff_t>(at) + 1,
                                     second);
-                for (Row& old : made.oldRows) old.recordIn = 0;
-                lineUp(made.oldRows);
+                lineUpAgain(made.oldRows);
                 made.newWords[row.reel] = {"joined 2"};
                 break;
             }
@@ -137,14 +141,16 @@ class Editor {
             case 9: {  // used once less
                 Row second = row;
                 made.oldRows.push_back(second);
-                for (Row& old : made.oldRows) old.recordIn = 0;
-                lineUp(made.oldRows);
+                lineUpAgain(made.oldRows);
                 made.oldWords[row.reel] = "fewer";
                 break;
             }
-            default:
+            case 10:
                 made.newWords[row.reel] = {"renamed"};
                 row.name = "another";
+                break;
+            default:  // black before it: nothing but the shift that all behind have
+                row.recordIn = n;
         }
     }
 
