@@ -46,12 +46,12 @@ class Finder {
         std::vector<BlackChange> changes;
         std::optional<Shared> last;
         for (const Link& link : chain) {
-            for (const Shared& next : sharedBy(link)) {
-                if (last && (next.newFrom < last->newTo || next.oldFrom < last->oldTo)) continue;
+            forEachShared(link, [&](const Shared& next) {
+                if (last && (next.newFrom < last->newTo || next.oldFrom < last->oldTo)) return;
                 const std::int64_t longer = last ? change(track, *last, next) : 0;
                 if (longer != 0) changes.push_back({link.event, longer});
                 last = next;
-            }
+            });
         }
         return changes;
     }
@@ -65,21 +65,29 @@ class Finder {
     }
 
     /// With each partner on the track, in record order.
-    std::vector<Shared> sharedBy(const Link& link) const {
-        const CutEvent& n = newCut[link.event];
-        std::vector<Shared> all;
-        for (const Partnership& p : partners.ofNew(link.event)) {
-            const CutEvent& o = oldCut[p.oldEvent];
-            if (o.track != n.track) continue;
-            if (p.isRetimed || n.kind != Kind::plain) {
-                all.push_back({n.recordIn, n.recordOut, o.recordIn, o.recordOut});
-            } else {
-                all.push_back({n.offset() + p.from, n.offset() + p.to, o.offset() + p.from,
-                               o.offset() + p.to});
-            }
+    template <class Take>
+    void forEachShared(const Link& link, Take take) const {
+        const auto all = partners.ofNew(link.event);
+        if (all.size() == 1) {
+            take(sharedBy(all.front()));
+            return;
         }
-        std::ranges::sort(all, {}, &Shared::newFrom);
-        return all;
+        std::vector<Shared> shared;
+        for (const Partnership& p : all) {
+            const bool isOnTrack = oldCut[p.oldEvent].track == newCut[p.newEvent].track;
+            if (isOnTrack) shared.push_back(sharedBy(p));
+        }
+        std::ranges::sort(shared, {}, &Shared::newFrom);
+        std::ranges::for_each(shared, take);
+    }
+
+    Shared sharedBy(const Partnership& p) const {
+        const CutEvent& n = newCut[p.newEvent];
+        const CutEvent& o = oldCut[p.oldEvent];
+        if (p.isRetimed || n.kind != Kind::plain) {
+            return {n.recordIn, n.recordOut, o.recordIn, o.recordOut};
+        }
+        return {n.offset() + p.from, n.offset() + p.to, o.offset() + p.from, o.offset() + p.to};
     }
 
     const Cut& oldCut;

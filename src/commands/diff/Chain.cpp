@@ -5,7 +5,9 @@
 
 #include <algorithm>
 #include <limits>
+#include <span>
 #include <tuple>
+#include <utility>
 
 namespace clipvane::diff {
 namespace {
@@ -60,7 +62,8 @@ template <class Order>
 std::vector<Index> sortedBy(const std::vector<Link>& links, Order order) {
     std::vector<Index> indices(links.size());
     for (Index i = 0; i < indices.size(); ++i) indices[i] = i;
-    std::ranges::sort(indices, [&](Index a, Index b) { return order(links[a]) < order(links[b]); });
+    const auto isBefore = [&](Index a, Index b) { return order(links[a]) < order(links[b]); };
+    if (!std::ranges::is_sorted(indices, isBefore)) std::ranges::sort(indices, isBefore);
     return indices;
 }
 
@@ -70,6 +73,25 @@ std::vector<Index> inNewOrder(const std::vector<Link>& links) {
 
 std::vector<Index> inOldOrder(const std::vector<Link>& links) {
     return sortedBy(links, [](const Link& l) { return std::tuple(l.oldFrom, l.partner, l.event); });
+}
+
+/// The chain of a block: links of successive ranks, given by rank in the order of NEW.
+std::vector<Index> bestOfBlock(std::span<const Index> block, const std::vector<Link>& links,
+                               const std::vector<Index>& byRank) {
+    const Index lowest = std::ranges::min(block);
+    BestOfFirst bests(block.size());
+    std::vector<Index> follows(block.size(), none);  // by rank: the rank of the link before
+    for (const Index rank : block) {
+        const Best before = bests.first(rank - lowest);
+        follows[rank - lowest] = before.rank;
+        bests.add({with(before.weight, links[byRank[rank]]), rank - lowest});
+    }
+    std::vector<Index> chain;
+    for (Index at = bests.first(block.size()).rank; at != none; at = follows[at]) {
+        chain.push_back(lowest + at);
+    }
+    std::ranges::reverse(chain);
+    return chain;
 }
 
 /// Whether a chain's link that begins at `begin` or later ends by `end` in the other list.
@@ -108,34 +130,43 @@ std::vector<Index> findChain(const std::vector<Link>& links) {
     const std::vector<Index> byRank = inOldOrder(links);
     std::vector<Index> rankOf(links.size());
     for (Index rank = 0; rank < byRank.size(); ++rank) rankOf[byRank[rank]] = rank;
-
-    BestOfFirst bests(links.size());
-    std::vector<Index> follows(links.size(), none);  // by rank: the rank of the link before
-    for (const Index i : inNewOrder(links)) {
-        const Best before = bests.first(rankOf[i]);
-        follows[rankOf[i]] = before.rank;
-        bests.add({with(before.weight, links[i]), rankOf[i]});
-    }
+    std::vector<Index> ranks;  // in the order of NEW
+    ranks.reserve(links.size());
+    for (const Index i : inNewOrder(links)) ranks.push_back(rankOf[i]);
 
     std::vector<Index> chain;
-    for (Index rank = bests.first(links.size()).rank; rank != none; rank = follows[rank]) {
-        chain.push_back(byRank[rank]);
+    chain.reserve(links.size());
+    Index highest = 0;
+    for (std::size_t begin = 0, i = 0; i < ranks.size(); ++i) {
+        highest = std::max(highest, ranks[i]);
+        // So many links with no rank above: whatever follows, in either list, follows them all.
+        if (highest != i) continue;
+        if (begin == i) {
+            chain.push_back(byRank[i]);
+        } else {
+            const auto block = std::span(ranks).subspan(begin, i + 1 - begin);
+            for (const Index rank : bestOfBlock(block, links, byRank)) {
+                chain.push_back(byRank[rank]);
+            }
+        }
+        begin = i + 1;
     }
-    std::ranges::reverse(chain);
     return chain;
 }
 
 std::vector<bool> findMoved(const std::vector<Link>& links, const std::vector<Index>& chain) {
+    if (chain.size() == links.size()) return std::vector<bool>(links.size());
     const LinksBehind behindInNew(fieldOf(links, chain, &Link::newFrom),
                                   fieldOf(links, chain, &Link::oldTo));
     const LinksBehind behindInOld(fieldOf(links, chain, &Link::oldFrom),
                                   fieldOf(links, chain, &Link::newTo));
+    std::vector<bool> isOnChain(links.size());
+    for (const Index i : chain) isOnChain[i] = true;
     std::vector<bool> moved(links.size());
     for (std::size_t i = 0; i < links.size(); ++i) {
-        moved[i] = behindInNew.any(links[i].newTo, links[i].oldFrom) ||
-                   behindInOld.any(links[i].oldTo, links[i].newFrom);
+        moved[i] = !isOnChain[i] && (behindInNew.any(links[i].newTo, links[i].oldFrom) ||
+                                     behindInOld.any(links[i].oldTo, links[i].newFrom));
     }
-    for (const Index i : chain) moved[i] = false;
     return moved;
 }
 

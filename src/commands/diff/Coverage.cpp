@@ -5,15 +5,19 @@
 
 #include <algorithm>
 #include <tuple>
+#include <utility>
 
 #include "base/Number.h"
+#include "commands/diff/ByIndex.h"
 
 namespace clipvane::diff {
 
 Coverage::Coverage(std::vector<AxisStretch> stretches) {
-    std::ranges::sort(stretches, [](const AxisStretch& a, const AxisStretch& b) {
-        return std::tuple(a.axis, a.from) < std::tuple(b.axis, b.from);
-    });
+    std::uint32_t axes = 0;
+    for (const AxisStretch& stretch : stretches) axes = std::max(axes, stretch.axis + 1);
+    stretches = sortedByIndex(
+        std::move(stretches), axes, [](const AxisStretch& s) { return s.axis; },
+        [](const AxisStretch& a, const AxisStretch& b) { return a.from < b.from; });
     for (const AxisStretch& next : stretches) {
         const bool continues = !parts.empty() && parts.back().stretch.axis == next.axis;
         if (!continues) {

@@ -62,9 +62,7 @@ class Adder {
     static void add(std::int64_t& sum, std::int64_t frames) { sum = addChecked(sum, frames); }
 
     void count(Words words) {
-        for (std::size_t i = 0; i < wordCount; ++i) {
-            if (words.has(static_cast<Word>(i))) ++sums.events[i];
-        }
+        words.forEach([&](Word word) { ++sums.events[static_cast<std::size_t>(word)]; });
     }
 
     const CutPair& pair;

@@ -13,25 +13,47 @@ bool isBlack(const EventView& event) {
     return event.rawText() == "gap";
 }
 
+/// The numbers of a column in which most texts are equal to the one above.
+class LatestNumber {
+  public:
+    explicit LatestNumber(TextNumbers& numbers) : numbers(numbers) {}
+
+    /// The text must outlive the next call.
+    std::uint32_t of(std::string_view text) {
+        if (text != latest) {
+            number = numbers.of(text);
+            latest = text;
+        }
+        return number;
+    }
+
+  private:
+    TextNumbers& numbers;
+    std::string_view latest;
+    std::uint32_t number = 0;  // of the empty text
+};
+
 }  // namespace
 
-std::vector<ListedEvent> listEvents(const CutList& list, TextNumbers& numbers) {
-    std::vector<ListedEvent> listed;
-    listed.reserve(list.events.size());
+ListedEvents listEvents(const CutList& list, TextNumbers& numbers) {
+    ListedEvents listed;
+    listed.events.reserve(list.events.size());
+    const FrameCounter counter(list.counting);
+    LatestNumber tracks(numbers);
     std::uint32_t row = 0;
     for (const auto& event : list.events) {
         const std::uint32_t here = row++;
+        listed.isFromEDL = listed.isFromEDL && event.format == "EDL";
         if (isBlack(event)) continue;
-        ListedEvent& result = listed.emplace_back();
+        ListedEvent& result = listed.events.emplace_back();
         result.row = here;
         result.reel = numbers.of(event.reelID);
         result.name = numbers.of(givenName(event.clipName, event.eventNumber));
-        result.track = numbers.of(event.track);
+        result.track = tracks.of(event.track);
         const std::array<std::string_view, 4> texts{event.sourceIn, event.sourceOut, event.recordIn,
                                                     event.recordOut};
-        std::ranges::transform(texts, result.times.begin(), [&](std::string_view text) {
-            return countFrames(text, list.counting);
-        });
+        std::ranges::transform(texts, result.times.begin(),
+                               [&](std::string_view text) { return counter.count(text); });
         const auto& times = result.times;
         const bool isOdd = !std::ranges::all_of(times, [](const auto& t) { return t.has_value(); });
         if (isOdd || *times[3] < *times[2]) {

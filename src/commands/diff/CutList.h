@@ -35,9 +35,14 @@ struct ListedEvent {
     std::array<std::optional<std::int64_t>, 4> times;  ///< source in and out, record in and out
 };
 
-/// The events of a list that take part: all but black, which is reel BL or BLK in an EDL, and a gap
-/// in an XML timeline.
-std::vector<ListedEvent> listEvents(const CutList& list, TextNumbers& numbers);
+/// The events of a list that take part.
+struct ListedEvents {
+    std::vector<ListedEvent> events;
+    bool isFromEDL = true;  ///< all of the list, what takes no part among it
+};
+
+/// Lists all events but black, which is reel BL or BLK in an EDL, and a gap in an XML timeline.
+ListedEvents listEvents(const CutList& list, TextNumbers& numbers);
 
 /// The event's name; empty where "Clip" and the event's number stand in for one.
 std::string_view givenName(std::string_view clipName, std::string_view eventNumber);

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
+#include <limits>
 #include <map>
 #include <optional>
 #include <set>
@@ -31,6 +33,22 @@ class Numbers {
     std::map<Key, std::uint32_t> numbers;
 };
 
+/// Numbers that were given to numbers, which lie close together.
+class Table {
+  public:
+    /// What `make` gave it.
+    template <class Make>
+    std::uint32_t of(std::uint32_t key, Make make) {
+        if (key >= numbers.size()) numbers.resize(key + std::size_t{1}, none);
+        if (numbers[key] == none) numbers[key] = make();
+        return numbers[key];
+    }
+
+  private:
+    static constexpr std::uint32_t none = std::numeric_limits<std::uint32_t>::max();
+    std::vector<std::uint32_t> numbers;
+};
+
 /// Tells sources apart.
 class Sources {
   public:
@@ -41,9 +59,16 @@ class Sources {
     }
 
     std::uint32_t of(const ListedEvent& event) {
-        const Told told = toldBy(event);
-        return numbers.of(
-            {told, told == Told::byName ? 0 : event.reel, told == Told::byReel ? 0 : event.name});
+        const auto next = [&] { return count++; };
+        switch (toldBy(event)) {
+            case Told::byReel:
+                return byReel.of(event.reel, next);
+            case Told::byName:
+                return byName.of(event.name, next);
+            case Told::byBoth:
+                break;
+        }
+        return byBoth.of(pairs.of({event.reel, event.name}), next);
     }
 
   private:
@@ -71,44 +96,55 @@ class Sources {
 
     By by;
     std::set<std::uint32_t> silentReels;
-    Numbers<std::tuple<Told, std::uint32_t, std::uint32_t>> numbers;
+    Table byReel;
+    Table byName;
+    Table byBoth;
+    Numbers<std::pair<std::uint32_t, std::uint32_t>> pairs;
+    std::uint32_t count = 0;
 };
 
 class PairMaker {
+    /// Kind, source, and what else must be equal.
+    using Thing = std::tuple<Kind, std::uint32_t, std::int64_t, std::int64_t, std::int64_t>;
+
   public:
-    PairMaker(const CutList& oldList, const CutList& newList, By by)
-        : oldEvents(listEvents(oldList, texts)),
-          newEvents(listEvents(newList, texts)),
-          sources(by, texts.of("AX"), oldEvents, newEvents) {
-        pair.by = by;
+    PairMaker(const CutList& oldList, const CutList& newList, std::optional<By> by)
+        : oldListed(listEvents(oldList, texts)),
+          newListed(listEvents(newList, texts)),
+          sources(by.value_or(usualBy()), texts.of("AX"), oldListed.events, newListed.events) {
+        pair.by = by.value_or(usualBy());
         numberTracks(oldList, newList);
     }
 
     CutPair make() && {
-        pair.oldCut = makeCut(oldEvents);
-        pair.newCut = makeCut(newEvents);
+        pair.oldCut = makeCut(oldListed.events);
+        pair.newCut = makeCut(newListed.events);
         return std::move(pair);
     }
 
   private:
+    By usualBy() const { return oldListed.isFromEDL && newListed.isFromEDL ? By::reel : By::name; }
+
     void numberTracks(const CutList& oldList, const CutList& newList) {
-        std::set<std::uint32_t> inOld;
-        for (const ListedEvent& event : oldEvents) inOld.insert(event.track);
+        numberTracks(newList, newListed.events);
+        const std::size_t inNew = pair.tracks.size();
+        numberTracks(oldList, oldListed.events);
         pair.comparesTracks = std::ranges::any_of(
-            newEvents, [&](const ListedEvent& event) { return inOld.contains(event.track); });
-        if (!pair.comparesTracks) {
-            pair.tracks.emplace_back();
-            return;
-        }
-        numberTracks(newList, newEvents);
-        numberTracks(oldList, oldEvents);
+            oldListed.events, [&](const ListedEvent& event) { return trackOf(event) < inNew; });
+        if (!pair.comparesTracks) pair.tracks = {""};
     }
 
     void numberTracks(const CutList& list, const Listed& events) {
         for (const ListedEvent& event : events) {
-            if (tracks.of(event.track) < pair.tracks.size()) continue;
-            pair.tracks.emplace_back(list.events[event.row].track);
+            trackNumbers.of(event.track, [&] {
+                pair.tracks.emplace_back(list.events[event.row].track);
+                return static_cast<std::uint32_t>(pair.tracks.size() - 1);
+            });
         }
+    }
+
+    std::uint32_t trackOf(const ListedEvent& event) {
+        return trackNumbers.of(event.track, [] { return std::uint32_t{0}; });
     }
 
     Cut makeCut(const Listed& events) {
@@ -138,14 +174,14 @@ class PairMaker {
     CutEvent makeEvent(const ListedEvent& listed) {
         CutEvent event;
         event.row = listed.row;
-        event.track = pair.comparesTracks ? tracks.of(listed.track) : 0;
+        event.track = pair.comparesTracks ? trackOf(listed) : 0;
         event.name = pair.by == By::reel ? listed.name : 0;
         event.source = sources.of(listed);
         const auto& [sourceIn, sourceOut, recordIn, recordOut] = listed.times;
         if (!sourceIn || !sourceOut || !recordIn || !recordOut || *recordOut < *recordIn) {
             event.kind = Kind::odd;
             const std::uint32_t timecodes = oddTimecodes.of(listed.timecodes);
-            event.content = contents.of({event.kind, event.source, timecodes, 0, 0});
+            event.content = contentOf({event.kind, event.source, timecodes, 0, 0});
             return event;
         }
         event.sourceIn = *sourceIn;
@@ -155,27 +191,31 @@ class PairMaker {
         const std::int64_t length = subtractChecked(*recordOut, *recordIn);
         const std::int64_t sourceLength = subtractChecked(*sourceOut, *sourceIn);
         if (length == sourceLength && length > 0) {
-            event.content = contents.of({event.kind, event.source, 0, 0, 0});
+            event.content = plainContents.of(event.source, [&] { return contentCount++; });
         } else {
             event.kind = length == 0 ? Kind::point : Kind::whole;
-            event.content = contents.of({event.kind, event.source, *sourceIn, *sourceOut, length});
+            event.content = contentOf({event.kind, event.source, *sourceIn, *sourceOut, length});
         }
         return event;
     }
 
+    /// The content of an event that is compared as one thing.
+    std::uint32_t contentOf(const Thing& thing) {
+        return thingContents.of(things.of(thing), [&] { return contentCount++; });
+    }
+
     TextNumbers texts;
-    Listed oldEvents;
-    Listed newEvents;
+    ListedEvents oldListed;
+    ListedEvents newListed;
     Sources sources;
-    Numbers<std::uint32_t> tracks;
+    Table trackNumbers;
+    Table plainContents;
+    Table thingContents;
     Numbers<std::array<std::uint32_t, 4>> oddTimecodes;
-    Numbers<std::tuple<Kind, std::uint32_t, std::int64_t, std::int64_t, std::int64_t>> contents;
+    Numbers<Thing> things;
+    std::uint32_t contentCount = 0;
     CutPair pair;
 };
-
-By usualBy(const CutList& oldList, const CutList& newList) {
-    return isFromEDL(oldList) && isFromEDL(newList) ? By::reel : By::name;
-}
 
 }  // namespace
 
@@ -188,7 +228,7 @@ std::optional<std::uint32_t> findTrack(const std::vector<std::string>& tracks,
 }
 
 CutPair makeComparable(const CutList& oldList, const CutList& newList, std::optional<By> by) {
-    return PairMaker(oldList, newList, by.value_or(usualBy(oldList, newList))).make();
+    return PairMaker(oldList, newList, by).make();
 }
 
 }  // namespace clipvane::diff

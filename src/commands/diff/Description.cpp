@@ -3,31 +3,12 @@
 
 #include "commands/diff/Description.h"
 
-#include <algorithm>
-#include <tuple>
-
+#include "commands/diff/FreeStretches.h"
 #include "commands/diff/Trims.h"
 #include "commands/diff/Unpaired.h"
 
 namespace clipvane::diff {
 namespace {
-
-std::vector<Stretch> pairedOfNew(const std::vector<Run>& runs) {
-    std::vector<Stretch> paired;
-    paired.reserve(runs.size());
-    for (const Run& run : runs) paired.push_back({run.newEvent, run.from, run.to});
-    return paired;
-}
-
-std::vector<Stretch> pairedOfOld(const std::vector<Run>& runs) {
-    std::vector<Stretch> paired;
-    paired.reserve(runs.size());
-    for (const Run& run : runs) paired.push_back({run.oldEvent, run.from, run.to});
-    std::ranges::sort(paired, [](const Stretch& a, const Stretch& b) {
-        return std::tuple(a.event, a.from) < std::tuple(b.event, b.from);
-    });
-    return paired;
-}
 
 Times timesOf(const CutEvent& event) {
     return {event.sourceIn, event.sourceOut, event.recordIn, event.recordOut};
@@ -167,7 +148,7 @@ std::vector<NewEvent> describeNew(const Cut& oldCut, const Cut& newCut,
 
 std::vector<OldEvent> describeOld(const Cut& oldCut, const Cut& newCut,
                                   const std::vector<Run>& runs, const Partners& partners) {
-    const auto unpaired = countUnpaired(oldCut, pairedOfOld(runs), newCut);
+    const auto unpaired = countUnpaired(oldCut, pairedOfOld(runs, oldCut.size()), newCut);
     std::vector<OldEvent> all;
     all.reserve(oldCut.size());
     for (std::uint32_t o = 0; o < oldCut.size(); ++o) {

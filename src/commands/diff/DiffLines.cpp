@@ -116,9 +116,8 @@ std::optional<Texts> newTexts(const Change& change) {
 std::vector<std::string> changeTexts(const Change& change) {
     if (change.isBlack()) return {"black"};
     std::vector<std::string> texts;
-    for (std::size_t i = 0; i < wordCount; ++i) {
-        if (change.words().has(static_cast<Word>(i))) texts.emplace_back(wordTexts[i]);
-    }
+    change.words().forEach(
+        [&](Word word) { texts.emplace_back(wordTexts[static_cast<std::size_t>(word)]); });
     return texts;
 }
 

@@ -15,9 +15,21 @@ struct Counting {
     bool dropsFrames = false;  ///< drop-frame timecode; `fps` then has the frame base 30 or 60
 };
 
-/// The frame count of a timecode, as `frames` (timecode/Timecode.h) reads it. In drop-frame
+/// Counts the frames of timecodes, as `frames` (timecode/Timecode.h) reads them. In drop-frame
 /// timecode each minute leaves out its first 2 frame numbers at base 30, 4 at base 60, but for
 /// every tenth minute.
-std::optional<std::int64_t> countFrames(std::string_view timecode, const Counting& counting);
+class FrameCounter {
+  public:
+    explicit FrameCounter(const Counting& counting);
+
+    /// Nothing when the text is no timecode.
+    std::optional<std::int64_t> count(std::string_view timecode) const;
+
+  private:
+    std::optional<std::int64_t> countAll(std::string_view timecode) const;
+
+    Counting counting;
+    std::uint32_t usualBase;  ///< 0 for a rate that `PackedTimecode` does not count at
+};
 
 }  // namespace clipvane::diff

@@ -5,7 +5,25 @@
 
 #include <utility>
 
+#include "commands/diff/ByIndex.h"
+
 namespace clipvane::diff {
+
+std::vector<Stretch> pairedOfOld(const std::vector<Run>& runs, std::size_t oldCount) {
+    std::vector<Stretch> stretches;
+    stretches.reserve(runs.size());
+    for (const Run& run : runs) stretches.push_back({run.oldEvent, run.from, run.to});
+    return sortedByIndex(
+        std::move(stretches), oldCount, [](const Stretch& s) { return s.event; },
+        [](const Stretch& a, const Stretch& b) { return a.from < b.from; });
+}
+
+std::vector<Stretch> pairedOfNew(const std::vector<Run>& runs) {
+    std::vector<Stretch> stretches;
+    stretches.reserve(runs.size());
+    for (const Run& run : runs) stretches.push_back({run.newEvent, run.from, run.to});
+    return stretches;
+}
 
 FreeStretches::FreeStretches(const Cut& cut) {
     free.reserve(cut.size());

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <vector>
@@ -17,6 +18,10 @@ struct Stretch {
     std::int64_t from = 0;
     std::int64_t to = 0;
 };
+
+// What runs, by event of NEW and position, pair of either list: by event, then position.
+std::vector<Stretch> pairedOfOld(const std::vector<Run>& runs, std::size_t oldCount);
+std::vector<Stretch> pairedOfNew(const std::vector<Run>& runs);
 
 /// What of a cut is not paired yet: longest stretches, by event, then position.
 class FreeStretches {

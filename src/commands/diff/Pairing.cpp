@@ -8,6 +8,7 @@
 #include <tuple>
 #include <utility>
 
+#include "commands/diff/ByIndex.h"
 #include "commands/diff/FreeStretches.h"
 #include "commands/diff/NeighbourShift.h"
 #include "commands/diff/SureRounds.h"
@@ -22,21 +23,10 @@ bool comesBefore(const Run& a, const Run& b) {
     return std::tuple(a.newEvent, a.from) < std::tuple(b.newEvent, b.from);
 }
 
-std::vector<Stretch> oldStretches(const std::vector<Run>& runs) {
-    std::vector<Stretch> stretches;
-    stretches.reserve(runs.size());
-    for (const Run& run : runs) stretches.push_back({run.oldEvent, run.from, run.to});
-    std::ranges::sort(stretches, [](const Stretch& a, const Stretch& b) {
-        return std::tuple(a.event, a.from) < std::tuple(b.event, b.from);
-    });
-    return stretches;
-}
-
-std::vector<Stretch> newStretches(const std::vector<Run>& runs) {
-    std::vector<Stretch> stretches;
-    stretches.reserve(runs.size());
-    for (const Run& run : runs) stretches.push_back({run.newEvent, run.from, run.to});
-    return stretches;
+std::vector<Run> inNewOrder(std::vector<Run> runs, const Cut& newCut) {
+    return sortedByIndex(
+        std::move(runs), newCut.size(), [](const Run& run) { return run.newEvent; },
+        [](const Run& a, const Run& b) { return a.from < b.from; });
 }
 
 class Rounds {
@@ -142,9 +132,14 @@ class Rounds {
     }
 
     void keep(std::vector<Run> found) {
-        std::ranges::sort(found, comesBefore);
-        oldFree.take(oldStretches(found));
-        newFree.take(newStretches(found));
+        if (found.empty()) return;
+        found = inNewOrder(std::move(found), newCut);
+        oldFree.take(pairedOfOld(found, oldCut.size()));
+        newFree.take(pairedOfNew(found));
+        if (runs.empty()) {
+            runs = std::move(found);
+            return;
+        }
         const auto middle = static_cast<std::ptrdiff_t>(runs.size());
         runs.insert(runs.end(), found.begin(), found.end());
         std::inplace_merge(runs.begin(), runs.begin() + middle, runs.end(), comesBefore);

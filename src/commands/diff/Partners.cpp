@@ -8,6 +8,7 @@
 #include <tuple>
 #include <utility>
 
+#include "commands/diff/ByIndex.h"
 #include "commands/diff/Retimed.h"
 
 namespace clipvane::diff {
@@ -31,9 +32,11 @@ std::vector<Partnership> sharedBy(const std::vector<Run>& runs, const Cut& newCu
         shared.push_back({run.newEvent, run.oldEvent, false,
                           newCut[run.newEvent].framesOf(run.to - run.from), run.from, run.to});
     }
-    std::ranges::stable_sort(shared, [](const Partnership& a, const Partnership& b) {
-        return std::tuple(a.newEvent, a.oldEvent) < std::tuple(b.newEvent, b.oldEvent);
-    });
+    shared = sortedByIndex(
+        std::move(shared), newCut.size(), [](const Partnership& p) { return p.newEvent; },
+        [](const Partnership& a, const Partnership& b) {
+            return std::tuple(a.oldEvent, a.from) < std::tuple(b.oldEvent, b.from);
+        });
     std::vector<Partnership> merged;
     merged.reserve(shared.size());
     for (const Partnership& p : shared) {
@@ -57,6 +60,7 @@ class Finder {
     Partners find() {
         findBest();
         std::vector<Partnership> all;
+        all.reserve(shared.size());
         for (const Partnership& p : shared) {
             if (arePartners(p)) all.push_back(p);
         }
@@ -113,16 +117,19 @@ class Finder {
     }
 
     Partners arranged(std::vector<Partnership> all) const {
-        std::ranges::sort(all, [&](const Partnership& a, const Partnership& b) {
-            return std::tuple(a.newEvent, oldCut[a.oldEvent].sourceLow(), a.oldEvent) <
-                   std::tuple(b.newEvent, oldCut[b.oldEvent].sourceLow(), b.oldEvent);
-        });
-        std::vector<Partnership> byOld = all;
-        std::ranges::sort(byOld, [&](const Partnership& a, const Partnership& b) {
-            return std::tuple(a.oldEvent, newCut[a.newEvent].sourceLow(), a.newEvent) <
-                   std::tuple(b.oldEvent, newCut[b.newEvent].sourceLow(), b.newEvent);
-        });
-        return Partners(oldCut.size(), newCut.size(), std::move(all), std::move(byOld));
+        auto byNew = sortedByIndex(
+            std::move(all), newCut.size(), [](const Partnership& p) { return p.newEvent; },
+            [&](const Partnership& a, const Partnership& b) {
+                return std::tuple(oldCut[a.oldEvent].sourceLow(), a.oldEvent) <
+                       std::tuple(oldCut[b.oldEvent].sourceLow(), b.oldEvent);
+            });
+        auto byOld = sortedByIndex(
+            byNew, oldCut.size(), [](const Partnership& p) { return p.oldEvent; },
+            [&](const Partnership& a, const Partnership& b) {
+                return std::tuple(newCut[a.newEvent].sourceLow(), a.newEvent) <
+                       std::tuple(newCut[b.newEvent].sourceLow(), b.newEvent);
+            });
+        return Partners(oldCut.size(), newCut.size(), std::move(byNew), std::move(byOld));
     }
 
     const Cut& oldCut;

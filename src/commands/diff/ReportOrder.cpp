@@ -4,7 +4,6 @@
 #include "commands/diff/ReportOrder.h"
 
 #include <algorithm>
-#include <optional>
 #include <tuple>
 #include <utility>
 
@@ -12,87 +11,111 @@ namespace clipvane::diff {
 namespace {
 
 using Index = std::uint32_t;
+using Slot = std::size_t;  // how many events of its track's chain an event follows
+
+/// An event that is not on its track's chain.
+struct InSlot {
+    Slot slot;
+    Index event;
+};
 
 bool isLost(const OldEvent& event) {
     return event.words.has(Word::gone) || event.words.has(Word::fewer);
 }
 
-/// The events of each track, in record order.
-template <class Event>
-std::vector<std::vector<Index>> byTrack(const std::vector<Event>& events, std::size_t tracks) {
-    std::vector<std::vector<Index>> result(tracks);
-    for (Index i = 0; i < events.size(); ++i) result[events[i].track].push_back(i);
-    return result;
-}
-
-/// How many events of a chain an event of OLD follows there.
-std::size_t slotOf(Index event, const Cut& oldCut, const std::vector<Link>& chain) {
-    const auto behind = std::ranges::lower_bound(
-        chain, std::tuple(oldCut[event].recordIn, event), {},
-        [](const Link& link) { return std::tuple(link.oldFrom, link.partner); });
-    return static_cast<std::size_t>(behind - chain.begin());
-}
-
-/// The lost events of a track by their slot.
-std::vector<std::vector<Index>> lostBySlot(const std::vector<Index>& track, const Cut& oldCut,
-                                           const std::vector<Link>& chain,
-                                           const std::vector<OldEvent>& oldEvents) {
-    std::vector<std::vector<Index>> slots(chain.size() + 1);
-    for (const Index o : track) {
-        if (isLost(oldEvents[o])) slots[slotOf(o, oldCut, chain)].push_back(o);
+/// The lost events of each track, in order.
+std::vector<std::vector<InSlot>> lostByTrack(const Cut& oldCut,
+                                             const std::vector<TrackChain>& chains,
+                                             const std::vector<OldEvent>& oldEvents) {
+    std::vector<std::vector<InSlot>> lost(chains.size());
+    for (Index o = 0; o < oldEvents.size(); ++o) {
+        if (!isLost(oldEvents[o])) continue;
+        const std::vector<Link>& chain = chains[oldEvents[o].track].chain;
+        const auto behind = std::ranges::lower_bound(
+            chain, std::tuple(oldCut[o].recordIn, o), {},
+            [](const Link& link) { return std::tuple(link.oldFrom, link.partner); });
+        lost[oldEvents[o].track].push_back({static_cast<Slot>(behind - chain.begin()), o});
     }
-    return slots;
+    return lost;
 }
 
-/// Where on a chain each event of NEW stands.
-class Slots {
+/// The slot behind each event of NEW that is on its track's chain.
+class SlotsBehind {
   public:
-    explicit Slots(const std::vector<Link>& chain) {
-        for (std::size_t i = 0; i < chain.size(); ++i) events.emplace_back(chain[i].event, i);
-        std::ranges::sort(events);
+    SlotsBehind(const std::vector<TrackChain>& chains, std::size_t newCount) : slots(newCount) {
+        for (const TrackChain& track : chains) {
+            Index slot = 0;
+            for (const Link& link : track.chain) slots[link.event] = ++slot;
+        }
     }
 
-    /// How many events of the chain stand before it.
-    std::size_t of(Index event) const {
-        return static_cast<std::size_t>(firstFrom(event) - events.begin());
+    bool has(Index event) const { return slots[event] != 0; }
+    Slot of(Index event) const { return slots[event]; }
+
+  private:
+    std::vector<Index> slots;  // 0 for those that are not
+};
+
+/// Those of the slot, of events in the order of slots.
+auto inSlot(const std::vector<InSlot>& events, Slot slot) {
+    return std::ranges::equal_range(events, slot, {}, &InSlot::slot);
+}
+
+/// The report of each track, as it grows.
+class Lines {
+  public:
+    Lines(const std::vector<std::vector<InSlot>>& lost, std::size_t tracks)
+        : lost(lost), lines(tracks), orders(tracks) {
+        for (Index track = 0; track < tracks; ++track) addLost(track, 0);
     }
 
-    /// Its index on the chain.
-    std::optional<std::size_t> onChain(Index event) const {
-        const auto found = firstFrom(event);
-        if (found == events.end() || found->first != event) return std::nullopt;
-        return found->second;
+    void beginEvent(Index track) { ++orders[track]; }
+
+    void add(ReportLine::Kind kind, Index track, Index event, std::int64_t longer = 0) {
+        lines[track].push_back({kind, track, event, orders[track], longer});
+    }
+
+    void addLost(Index track, Slot slot) {
+        for (const InSlot& one : inSlot(lost[track], slot)) {
+            add(ReportLine::Kind::lost, track, one.event);
+        }
+    }
+
+    std::vector<ReportLine> result() && {
+        std::vector<ReportLine> all;
+        for (const auto& track : lines) all.insert(all.end(), track.begin(), track.end());
+        return all;
     }
 
   private:
-    using Member = std::pair<Index, std::size_t>;  // event, index on the chain
-
-    std::vector<Member>::const_iterator firstFrom(Index event) const {
-        return std::ranges::lower_bound(events, event, {}, &Member::first);
-    }
-
-    std::vector<Member> events;
+    const std::vector<std::vector<InSlot>>& lost;
+    std::vector<std::vector<ReportLine>> lines;
+    std::vector<Index> orders;  // of each track's latest event
 };
 
 }  // namespace
 
 void findReplacements(const Cut& oldCut, const std::vector<TrackChain>& chains,
                       const std::vector<OldEvent>& oldEvents, std::vector<NewEvent>& newEvents) {
-    const auto oldByTrack = byTrack(oldEvents, chains.size());
-    const auto newByTrack = byTrack(newEvents, chains.size());
-    for (std::size_t track = 0; track < chains.size(); ++track) {
-        const auto& chain = chains[track].chain;
-        const auto lost = lostBySlot(oldByTrack[track], oldCut, chain, oldEvents);
-        const Slots slots(chain);
-        std::vector<std::vector<Index>> others(chain.size() + 1);
-        for (const Index n : newByTrack[track]) {
-            const bool isOther = !slots.onChain(n) && !newEvents[n].words.has(Word::notCompared);
-            if (isOther) others[slots.of(n)].push_back(n);
+    const SlotsBehind slots(chains, newEvents.size());
+    std::vector<Slot> passed(chains.size());
+    std::vector<std::vector<InSlot>> others(chains.size());
+    for (Index n = 0; n < newEvents.size(); ++n) {
+        const NewEvent& event = newEvents[n];
+        if (slots.has(n)) {
+            ++passed[event.track];
+        } else if (!event.words.has(Word::notCompared)) {
+            others[event.track].push_back({passed[event.track], n});
         }
-        for (std::size_t slot = 0; slot < lost.size(); ++slot) {
-            if (lost[slot].size() != 1 || others[slot].size() != 1) continue;
-            NewEvent& event = newEvents[others[slot].front()];
-            if (event.words.has(Word::added)) event.inPlaceOf = lost[slot].front();
+    }
+    const auto lost = lostByTrack(oldCut, chains, oldEvents);
+    for (std::size_t track = 0; track < chains.size(); ++track) {
+        for (const InSlot& other : others[track]) {
+            const auto lostHere = inSlot(lost[track], other.slot);
+            const bool isAlone = inSlot(others[track], other.slot).size() == 1;
+            NewEvent& event = newEvents[other.event];
+            if (!isAlone || lostHere.size() != 1 || !event.words.has(Word::added)) continue;
+            event.inPlaceOf = lostHere.front().event;
         }
     }
 }
@@ -102,33 +125,26 @@ std::vector<ReportLine> makeReport(const Cut& oldCut, const std::vector<TrackCha
                                    const std::vector<NewEvent>& newEvents,
                                    const std::vector<OldEvent>& oldEvents) {
     using Kind = ReportLine::Kind;
-    std::vector<ReportLine> lines;
-    const auto oldByTrack = byTrack(oldEvents, chains.size());
-    const auto newByTrack = byTrack(newEvents, chains.size());
-    for (Index track = 0; track < chains.size(); ++track) {
-        const auto& chain = chains[track].chain;
-        const auto lost = lostBySlot(oldByTrack[track], oldCut, chain, oldEvents);
-        const Slots slots(chain);
-        std::vector<BlackChange> changes = black[track];
-        std::ranges::stable_sort(changes, {}, &BlackChange::before);
-        auto change = changes.begin();
-        Index order = 0;
-        const auto addLost = [&](std::size_t slot) {
-            for (const Index o : lost[slot]) lines.push_back({Kind::lost, track, o, order, 0});
-        };
-        addLost(0);
-        for (const Index n : newByTrack[track]) {
-            ++order;
-            for (; change != changes.end() && change->before == n; ++change) {
-                lines.push_back({Kind::black, track, n, order, change->longer});
-            }
-            const Words words = newEvents[n].words;
-            const bool hasLine = !words.has(Word::same) && !words.has(Word::notCompared);
-            if (hasLine) lines.push_back({Kind::event, track, n, order, 0});
-            if (const auto i = slots.onChain(n)) addLost(*i + 1);
+    const SlotsBehind slots(chains, newEvents.size());
+    const auto lost = lostByTrack(oldCut, chains, oldEvents);
+    auto changes = black;
+    for (auto& track : changes) std::ranges::stable_sort(track, {}, &BlackChange::before);
+    std::vector<std::size_t> nextChange(chains.size());
+
+    Lines lines(lost, chains.size());
+    for (Index n = 0; n < newEvents.size(); ++n) {
+        const NewEvent& event = newEvents[n];
+        const Index track = event.track;
+        lines.beginEvent(track);
+        for (std::size_t& next = nextChange[track];
+             next < changes[track].size() && changes[track][next].before == n; ++next) {
+            lines.add(Kind::black, track, n, changes[track][next].longer);
         }
+        const bool hasLine = !event.words.has(Word::same) && !event.words.has(Word::notCompared);
+        if (hasLine) lines.add(Kind::event, track, n);
+        if (slots.has(n)) lines.addLost(track, slots.of(n));
     }
-    return lines;
+    return std::move(lines).result();
 }
 
 }  // namespace clipvane::diff

@@ -25,8 +25,6 @@ class SureRounds {
   private:
     const Cut& oldCut;
     const Cut& newCut;
-    std::vector<std::uint32_t> oldOrder;  // by track, content and range
-    std::vector<std::uint32_t> newOrder;
     std::vector<bool> isUnchanged;  // events of NEW
 };
 

@@ -27,18 +27,22 @@ std::string normalized(std::string_view text) {
 }  // namespace
 
 std::uint32_t TextNumbers::of(std::string_view text) {
-    return isASCII(text) ? numberOf(text) : numberOf(normalized(text));
+    if (const auto found = numbers.find(text); found != numbers.end()) return found->second;
+    const std::uint32_t number = numberOfNew(text);
+    numbers.emplace(text, number);
+    return number;
+}
+
+/// The number of a text that has none in this spelling.
+std::uint32_t TextNumbers::numberOfNew(std::string_view text) {
+    if (isASCII(text)) return next++;
+    const auto [equal, isNew] = numbers.try_emplace(normalized(text), next);
+    if (isNew) ++next;
+    return equal->second;
 }
 
 bool areEquivalent(std::string_view a, std::string_view b) {
     return a == b || normalized(a) == normalized(b);
-}
-
-std::uint32_t TextNumbers::numberOf(std::string_view text) {
-    if (const auto found = numbers.find(text); found != numbers.end()) return found->second;
-    const auto next = static_cast<std::uint32_t>(numbers.size());
-    numbers.emplace(text, next);
-    return next;
 }
 
 }  // namespace clipvane::diff

@@ -22,9 +22,10 @@ class TextNumbers {
         using is_transparent = void;
     };
 
-    std::uint32_t numberOf(std::string_view text);
+    std::uint32_t numberOfNew(std::string_view text);
 
     std::unordered_map<std::string, std::uint32_t, Hash, std::equal_to<>> numbers{{"", 0}};
+    std::uint32_t next = 1;
 };
 
 /// Whether two texts, in UTF-8, are canonically equivalent.

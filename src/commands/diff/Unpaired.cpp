@@ -10,16 +10,25 @@
 namespace clipvane::diff {
 namespace {
 
-/// What `other` uses of the contents that `free` asks about.
+/// What `other` uses of the stretches of contents in `free`. They are few in most lists, so that
+/// only what touches them is put in order.
 Coverage usesOf(const Cut& other, const Cut& cut, const std::vector<Stretch>& free) {
-    std::uint32_t last = 0;
-    for (const CutEvent& event : cut) last = std::max(last, event.content);
-    std::vector<bool> isAsked(last + 1);
-    for (const Stretch& stretch : free) isAsked[cut[stretch.event].content] = true;
+    std::vector<AxisStretch> asked;
+    asked.reserve(free.size());
+    std::uint32_t contents = 0;
+    for (const Stretch& stretch : free) {
+        const std::uint32_t content = cut[stretch.event].content;
+        asked.push_back({content, stretch.from, stretch.to});
+        contents = std::max(contents, content + 1);
+    }
+    std::vector<bool> isAsked(contents);
+    for (const AxisStretch& stretch : asked) isAsked[stretch.axis] = true;
+    const Coverage askedAbout(std::move(asked));
     std::vector<AxisStretch> uses;
     for (const CutEvent& event : other) {
-        if (event.content > last || !isAsked[event.content]) continue;
-        uses.push_back({event.content, event.from(), event.to()});
+        if (event.content >= contents || !isAsked[event.content]) continue;
+        const AxisStretch use{event.content, event.from(), event.to()};
+        if (askedAbout.within(use) > 0) uses.push_back(use);
     }
     return Coverage(std::move(uses));
 }

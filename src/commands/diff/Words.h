@@ -4,6 +4,7 @@
 #pragma once
 
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
@@ -49,6 +50,14 @@ class Words {
     constexpr void add(Word word) { bits |= bit(word); }
     constexpr bool has(Word word) const { return (bits & bit(word)) != 0; }
     constexpr bool empty() const { return bits == 0; }
+
+    /// Calls `take` with each of them, in the order of `Word`.
+    template <class Take>
+    constexpr void forEach(Take take) const {
+        for (std::uint32_t rest = bits; rest != 0; rest &= rest - 1) {
+            take(static_cast<Word>(std::countr_zero(rest)));
+        }
+    }
 
     constexpr bool operator==(const Words&) const = default;
 

@@ -5,11 +5,16 @@
 
 #include <gtest/gtest.h>
 
+#include "support/ThrowingFatal.h"
+
 namespace clipvane::test {
 namespace {
 
-using diff::countFrames;
 using diff::Counting;
+
+std::optional<std::int64_t> countFrames(std::string_view timecode, const Counting& counting) {
+    return diff::FrameCounter(counting).count(timecode);
+}
 
 TEST(FrameCount, DropFrame_LeavesOutTheFirstNumbersOfMostMinutes) {
     const Counting at30{29.97, true};
@@ -26,6 +31,17 @@ TEST(FrameCount, DropFrame_LeavesOutTheFirstNumbersOfMostMinutes) {
 
 TEST(FrameCount, NonDrop_CountsEveryNumber) {
     EXPECT_EQ(countFrames("00:01:00:02", {29.97, false}), 1802);
+    EXPECT_EQ(countFrames("00:01:00;02", {29.97, false}), 1802);
+    EXPECT_EQ(countFrames("00:01:00:02", {100, false}), 6002);
+    EXPECT_EQ(countFrames("00:01:00:02", {101, false}), 6062);
+    EXPECT_EQ(countFrames("100:00:00:00", {24, false}), 8640000);
+    EXPECT_EQ(countFrames("-1:00:00:00", {24, false}), -86400);
+}
+
+TEST(FrameCount, ImpossibleRate_IsFatalForATimecodeAlone) {
+    const ThrowingFatal fatal;
+    EXPECT_EQ(countFrames("?", {1e30, false}), std::nullopt);
+    EXPECT_THROW(countFrames("00:00:00:01", {1e30, false}), ThrowingFatal::Reason);
 }
 
 }  // namespace
