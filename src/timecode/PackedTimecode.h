@@ -19,11 +19,14 @@ class PackedTimecode {
   public:
     /// `text`, if it has that form.
     static std::optional<PackedTimecode> pack(std::string_view text) {
-        const auto read = readTwoDigitTimecode(text);
-        if (!read || read->isDropFrame) return std::nullopt;
-        const auto [hours, minutes, seconds, frames] = read->fields;
-        return PackedTimecode(
-            static_cast<std::uint32_t>(hours | minutes << 8 | seconds << 16 | frames << 24));
+        if (text.size() != twoDigitLength) return std::nullopt;
+        return pack(std::span<const char, twoDigitLength>(text.data(), twoDigitLength));
+    }
+    static std::optional<PackedTimecode> pack(std::span<const char, twoDigitLength> text) {
+        const ThreeFields first(eightCharacters(text.data()));
+        const ThreeFields last(eightCharacters(text.data() + 3));
+        if (!first.matchColons() || !last.matchColons()) return std::nullopt;
+        return PackedTimecode(first.packed() | (last.packed() & 0xFF'0000) << 8);
     }
 
     /// Four numbers below 100 in 16 bits each, the hours in the lowest.
@@ -45,11 +48,20 @@ class PackedTimecode {
     }
 
     constexpr std::uint32_t hours() const { return packed & 0xFF; }
+    constexpr std::uint32_t frames() const { return packed >> 24; }
+    constexpr PackedTimecode withFrames(std::uint32_t frames) const {
+        return PackedTimecode((packed & 0x00FF'FFFF) | frames << 24);
+    }
+    /// Whether minutes and seconds are below 60.
+    constexpr bool isOnTheClock() const {
+        constexpr std::uint32_t reach = 0x80 - 60;  // takes sixty to its byte's highest bit
+        return ((packed + (reach << 8 | reach << 16)) & 0x0080'8000) == 0;
+    }
 
     /// Frames, counted on `base` frames a second, which is at most 100.
     constexpr std::uint32_t count(std::uint32_t base) const {
         const std::uint32_t minutes = hours() * 60 + (packed >> 8 & 0xFF);
-        return (minutes * 60 + (packed >> 16 & 0xFF)) * base + (packed >> 24);
+        return (minutes * 60 + (packed >> 16 & 0xFF)) * base + frames();
     }
 
   private:

@@ -14,9 +14,6 @@ namespace {
 
 constexpr char dropFrameSeparator = ';';
 
-/// Four counts of 64 bits, each with a sign, and what stands between them.
-constexpr std::size_t longestTimecode = 4 * 20 + 3;
-
 constexpr bool isSeparator(char c) {
     return c == ':' || c == dropFrameSeparator;
 }
@@ -96,14 +93,21 @@ std::string timecode(std::int64_t fromFrames, double fps, bool usesDropFrameSepa
 TimecodeConversion::TimecodeConversion(double from, double to)
     : fromBase(frameBase(from)),
       toBase(frameBase(to)),
-      hoursThatFit(fromBase <= 100 && toBase <= 100 ? 99 : 0) {}
+      hoursThatFit(fromBase <= 100 && toBase <= 100 ? 99 : 0) {
+    if (hoursThatFit > 0) prepareFrames();
+}
 
-void TimecodeConversion::makeRoom(std::string& timecode) const {
-    // Two digits a field take any usual rate's frames, and the hours grow by one at most.
-    const bool isUsual = toBase <= 100 && readTwoDigitFields(timecode);
-    const std::size_t longest = isUsual ? twoDigitLength + 1 : longestTimecode;
-    if (timecode.capacity() >= longest || !parseFields(timecode)) return;
-    timecode.reserve(longest);
+void TimecodeConversion::prepareFrames() {
+    for (std::size_t frames = 0; frames < newFrames.size(); ++frames) {
+        const auto halves = static_cast<std::int64_t>(frames) * toBase * 2;
+        const std::int64_t rounded = (halves + fromBase) / (fromBase * 2);
+        // Which way an exact half goes, the division of the whole count decides: its quotient may
+        // be no number of a double. Any other lies too far from a half to be led across.
+        const bool isHalf = halves % (fromBase * 2) == fromBase;
+        const bool makesSeconds = rounded >= toBase;
+        newFrames[frames] =
+            isHalf || makesSeconds ? notAlone : static_cast<std::uint8_t>(rounded);
+    }
 }
 
 bool TimecodeConversion::convert(std::string& timecode) const {
@@ -125,7 +129,7 @@ bool TimecodeConversion::convert(std::string& timecode) const {
     return true;
 }
 
-PackedTimecode TimecodeConversion::convert(PackedTimecode timecode) const {
+PackedTimecode TimecodeConversion::convertByCount(PackedTimecode timecode) const {
     const double count = timecode.count(static_cast<std::uint32_t>(fromBase));
     const double converted = count / static_cast<double>(fromBase) * static_cast<double>(toBase);
     return PackedTimecode::ofFields(fieldsOf(roundToInteger(converted), toBase));

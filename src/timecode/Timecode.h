@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -35,9 +36,6 @@ class TimecodeConversion {
   public:
     TimecodeConversion(double from, double to);
 
-    /// Gives `timecode` the room that `convert` needs, which then cannot fail.
-    void makeRoom(std::string& timecode) const;
-
     /// Converts `timecode` in place and tells whether it was one.
     bool convert(std::string& timecode) const;
 
@@ -46,12 +44,24 @@ class TimecodeConversion {
     bool fits(PackedTimecode timecode) const { return timecode.hours() < hoursThatFit; }
 
     /// The converted timecode, which must fit.
-    PackedTimecode convert(PackedTimecode timecode) const;
+    PackedTimecode convert(PackedTimecode timecode) const {
+        const std::uint8_t frames = newFrames[timecode.frames()];
+        if (frames == notAlone || !timecode.isOnTheClock()) return convertByCount(timecode);
+        return timecode.withFrames(frames);
+    }
 
   private:
+    void prepareFrames();
+    PackedTimecode convertByCount(PackedTimecode timecode) const;
+
     std::int64_t fromBase;
     std::int64_t toBase;
     std::uint32_t hoursThatFit;  ///< none with unusual rates
+
+    // A whole second stays one at any rate. So most timecodes change in their frames alone, and
+    // those do not depend on the other fields.
+    static constexpr std::uint8_t notAlone = 0xFF;
+    std::array<std::uint8_t, 100> newFrames{};  ///< by the frames, or `notAlone`
 };
 
 /// The time between two timecodes, such as "00:00:10:00 (250 frames)"; never below zero. "-" when

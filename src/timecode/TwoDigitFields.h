@@ -40,19 +40,30 @@ class ThreeFields {
   public:
     explicit ThreeFields(std::uint64_t characters) : values(characters ^ 0x3030'3A30'303A'3030) {}
 
+    // Whatever is more than 9, or 1 for a separator, reaches its byte's highest bit.
+
     /// Whether they are digits with ":" or ";" between them.
-    bool match() const {
-        // Whatever is more than 9, or 1 for a separator, reaches its byte's highest bit.
-        const std::uint64_t reach = values + 0x7676'7E76'767E'7676;
-        return ((values | reach) & 0x8080'8080'8080'8080) == 0;
-    }
+    bool match() const { return staysBelow(0x7676'7E76'767E'7676); }
+    /// Whether they are digits with ":" between them.
+    bool matchColons() const { return staysBelow(0x7676'7F76'767F'7676); }
     bool holdSemicolon() const { return (values & 0x0000'0100'0001'0000) != 0; }
     std::int64_t field(unsigned index) const {
         const std::uint64_t digits = values >> 24 * index;
         return static_cast<std::int64_t>((digits & 0xFF) * 10 + (digits >> 8 & 0xFF));
     }
+    /// The three fields in a byte each, the first in the lowest.
+    std::uint32_t packed() const {
+        // Of two digits, the first and its neighbour meet in the lower byte; no sum leaves a byte.
+        const std::uint64_t fields = values * 10 + (values >> 8);
+        return static_cast<std::uint32_t>((fields & 0xFF) | (fields >> 16 & 0xFF00) |
+                                          (fields >> 32 & 0xFF'0000));
+    }
 
   private:
+    bool staysBelow(std::uint64_t distances) const {
+        return ((values | (values + distances)) & 0x8080'8080'8080'8080) == 0;
+    }
+
     std::uint64_t values;  ///< digits are 0 to 9, ":" is 0 and ";" is 1
 };
 

@@ -82,6 +82,35 @@ TEST(PackedTimecode, ConvertedPacked_IsTheTextConverted) {
     }
 }
 
+/// Where the frames are converted without the rest: every number of them between all usual bases.
+TEST(PackedTimecode, EveryNumberOfFramesConvertedPacked_IsTheTextConverted) {
+    Random random(2);
+    for (int from = 1; from <= 100; ++from) {
+        for (int to = 1; to <= 100; ++to) {
+            const TimecodeConversion conversion(from, to);
+            for (std::uint32_t frames = 0; frames < 100; ++frames) {
+                const auto hours = static_cast<std::uint32_t>(random.below(99));
+                const auto minutes = static_cast<std::uint32_t>(random.below(60));
+                const auto seconds = static_cast<std::uint32_t>(random.below(60));
+                const PackedTimecode timecode(hours | minutes << 8 | seconds << 16 | frames << 24);
+                const std::string before = textOf(timecode);
+                std::string expected = before;
+                ASSERT_TRUE(conversion.convert(expected));
+                ASSERT_EQ(textOf(conversion.convert(timecode)), expected)
+                    << before << " from " << from << " to " << to;
+            }
+        }
+    }
+}
+
+TEST(PackedTimecode, OnTheClock_AreMinutesAndSecondsBelowSixty) {
+    EXPECT_TRUE(PackedTimecode::pack("99:59:59:99")->isOnTheClock());
+    EXPECT_TRUE(PackedTimecode::pack("00:00:00:00")->isOnTheClock());
+    for (const char* text : {"00:60:00:00", "00:00:60:00", "99:99:00:00", "00:59:99:00"}) {
+        EXPECT_FALSE(PackedTimecode::pack(text)->isOnTheClock()) << text;
+    }
+}
+
 TEST(PackedTimecode, UnusualRates_DoNotFit) {
     const auto packed = *PackedTimecode::pack("01:00:00:00");
     EXPECT_FALSE(TimecodeConversion(25, 101).fits(packed));
