@@ -8,15 +8,6 @@
 #include "base/UTF8.h"
 
 namespace clipvane {
-namespace {
-
-/// A character that nothing trims, seen without a closer look.
-constexpr bool isGraphicASCII(char c) {
-    return c > ' ' && c < '\x7F';
-}
-
-}  // namespace
-
 bool isWhiteSpaceBeyondASCII(char32_t c) {
     return u_isUWhiteSpace(static_cast<UChar32>(c)) != 0;
 }
@@ -26,7 +17,8 @@ bool isDecimalDigitBeyondASCII(char32_t c) {
 }
 
 std::string_view trimBlanksAndNewlines(std::string_view text) {
-    if (!text.empty() && isGraphicASCII(text.front()) && isGraphicASCII(text.back())) return text;
+    const auto stays = [](char c) { return isGraphicASCII(static_cast<unsigned char>(c)); };
+    if (!text.empty() && stays(text.front()) && stays(text.back())) return text;
     while (!text.empty()) {
         const CodePoint first = firstCodePoint(text);
         if (!isWhiteSpace(first.value)) break;

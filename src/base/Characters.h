@@ -27,6 +27,11 @@ inline bool isDecimalDigit(char32_t c) {
     return c < 0x80 ? isASCIIDigit(c) : isDecimalDigitBeyondASCII(c);
 }
 
+/// ASCII without blanks and control characters.
+constexpr bool isGraphicASCII(char32_t c) {
+    return c > U' ' && c < 0x7F;
+}
+
 /// The characters that end a line: U+000A to U+000D, U+0085, U+2028 and U+2029.
 constexpr bool isNewline(char32_t c) {
     return (c >= 0x0A && c <= 0x0D) || c == 0x85 || c == 0x2028 || c == 0x2029;

@@ -13,6 +13,9 @@ namespace {
 
 constexpr std::string_view keyword = "from clip name";
 
+/// How nearly every such comment begins.
+constexpr std::string_view usualStart = "* FROM CLIP NAME:";
+
 // Two characters outside ASCII have letters of the keyword as their upper case.
 constexpr std::string_view dotlessI = "\u0131";    // I
 constexpr std::string_view ligatureFF = "\uFB00";  // FF, of which the second may begin the keyword
@@ -63,12 +66,25 @@ bool containsKeyword(std::string_view line) {
     return false;
 }
 
+/// The text after the last colon, or all of it. The C library finds a colon faster from the front,
+/// and few lines have another.
+std::string_view afterLastColon(std::string_view text) {
+    while (true) {
+        const std::size_t colon = text.find(':');
+        if (colon == std::string_view::npos) return text;
+        text.remove_prefix(colon + 1);
+    }
+}
+
 }  // namespace
 
 std::optional<std::string_view> clipNameComment(std::string_view line) {
-    if (!containsKeyword(line)) return std::nullopt;
-    // Without a colon rfind gives npos, and npos + 1 is the line's beginning.
-    return trimBlanksAndNewlines(line.substr(line.rfind(':') + 1));
+    if (line.starts_with(usualStart)) {
+        line.remove_prefix(usualStart.size());
+    } else if (!containsKeyword(line)) {
+        return std::nullopt;
+    }
+    return trimBlanksAndNewlines(afterLastColon(line));
 }
 
 }  // namespace clipvane

@@ -48,58 +48,48 @@ class Reader {
     void takeComment(std::string_view line);
 
     EventList& events;
-
-    // The event whose comments are being read.
-    EventLine columns;
-    std::string_view clipName;  ///< from a clip-name comment, else empty
-    std::string_view lines;     ///< from its line to its last comment; empty before the first event
-    bool isJoined = false;      ///< others stand between them, or they do not end with line feeds
+    FoundEvent event;  ///< whose comments are being read; without lines before the first
     std::string madeName;
 };
 
 void Reader::readLine(std::string_view line) {
     if (line.empty()) return;
-    if (const auto found = matchEventLine(line)) {
+    if (const auto columns = matchEventLine(line)) {
         finish();
-        columns = *found;
-        clipName = {};
-        lines = line;
-        isJoined = false;
+        event = {.eventNumber = columns->number,
+                 .reelID = columns->reel,
+                 .track = columns->track,
+                 .timecodes = columns->timecodes,
+                 .format = "EDL",
+                 .lines = line};
         return;
     }
-    if (lines.empty()) return;
+    if (event.lines.empty()) return;
     if (const auto name = clipNameComment(line)) {
-        if (!name->empty()) clipName = *name;
+        if (!name->empty()) event.clipName = *name;
         takeComment(line);
     } else if (isComment(line)) {
         takeComment(line);
     }
 }
 
+/// The event's lines go to the end of this one. They are joined anew when others stand between
+/// them, or when they do not end with line feeds.
 void Reader::takeComment(std::string_view line) {
-    const char* const end = lines.data() + lines.size();
-    isJoined |= *end != '\n' || line.data() != end + 1;
-    lines = {lines.data(), static_cast<std::size_t>(line.data() + line.size() - lines.data())};
+    const char* const begin = event.lines.data();
+    const char* const end = begin + event.lines.size();
+    event.isJoined |= *end != '\n' || line.data() != end + 1;
+    event.lines = {begin, static_cast<std::size_t>(line.data() + line.size() - begin)};
 }
 
 void Reader::finish() {
-    if (lines.empty()) return;
-    if (clipName.empty()) {
+    if (event.lines.empty()) return;
+    if (event.clipName.empty()) {
         madeName = "Clip ";
-        madeName += columns.number;
-        clipName = madeName;
+        madeName += event.eventNumber;
+        event.clipName = madeName;
     }
-    events.append({.eventNumber = columns.number,
-                   .clipName = clipName,
-                   .reelID = columns.reel,
-                   .sourceIn = columns.sourceIn,
-                   .sourceOut = columns.sourceOut,
-                   .recordIn = columns.recordIn,
-                   .recordOut = columns.recordOut,
-                   .format = "EDL",
-                   .track = columns.track,
-                   .lines = lines,
-                   .isJoined = isJoined});
+    events.append(event);
 }
 
 template <class Text>

@@ -26,7 +26,7 @@ bool takeDigit(std::string_view& rest) {
     return true;
 }
 
-bool takeTimecode(std::string_view& rest, std::string_view& timecode) {
+bool takeTimecode(std::string_view& rest, FoundTimecode& timecode) {
     const std::string_view start = rest;
     for (int field = 0; field < 4; ++field) {
         if (field > 0 && !takeCharacter(rest, ':')) return false;
@@ -42,10 +42,18 @@ void takeDuration(std::string_view& rest) {
     if (!takeWhile(after, digit).empty() && takeSeparator(after)) rest = after;
 }
 
+/// Most lines that are no event line tell it by their first character.
+bool beginsOtherwise(std::string_view line) {
+    if (line.empty()) return true;
+    const auto first = static_cast<unsigned char>(line.front());
+    return isGraphicASCII(first) && !isASCIIDigit(first);
+}
+
 }  // namespace
 
 std::optional<EventLine> matchEventLine(std::string_view line) {
-    if (const auto columns = matchPlainEventLine(line)) return columns;
+    if (beginsOtherwise(line)) return std::nullopt;
+    if (auto columns = matchPlainEventLine(line)) return columns;
     return matchAnyEventLine(line);
 }
 
@@ -66,10 +74,10 @@ std::optional<EventLine> matchAnyEventLine(std::string_view line) {
     if (!takeSeparator(rest)) return std::nullopt;
     takeDuration(rest);
 
-    if (!takeTimecode(rest, columns.sourceIn) || !takeSeparator(rest)) return std::nullopt;
-    if (!takeTimecode(rest, columns.sourceOut) || !takeSeparator(rest)) return std::nullopt;
-    if (!takeTimecode(rest, columns.recordIn) || !takeSeparator(rest)) return std::nullopt;
-    if (!takeTimecode(rest, columns.recordOut)) return std::nullopt;
+    for (std::size_t i = 0; i < columns.timecodes.size(); ++i) {
+        if (i > 0 && !takeSeparator(rest)) return std::nullopt;
+        if (!takeTimecode(rest, columns.timecodes[i])) return std::nullopt;
+    }
     return columns;
 }
 

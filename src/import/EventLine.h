@@ -3,8 +3,11 @@
 
 #pragma once
 
+#include <array>
 #include <optional>
 #include <string_view>
+
+#include "model/FoundEvent.h"
 
 namespace clipvane {
 
@@ -13,10 +16,7 @@ struct EventLine {
     std::string_view number;
     std::string_view reel;
     std::string_view track;
-    std::string_view sourceIn;
-    std::string_view sourceOut;
-    std::string_view recordIn;
-    std::string_view recordOut;
+    std::array<FoundTimecode, 4> timecodes;  ///< source in and out, record in and out
 };
 
 /// Reads `line` as

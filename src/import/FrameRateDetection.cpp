@@ -22,6 +22,11 @@ ByteBlock lowerCaseBlock(const char* bytes) {
 bool mayHoldName(const char* bytes) {
     const ByteBlock first = lowerCaseBlock(bytes);
     const ByteBlock second = lowerCaseBlock(bytes + 1);
+    // Most bytes hold not even two such letters: "fp" or "fr", and "ti".
+    if (!holdsAnywhere(((first == 'f') & ((second | 2) == 'r')) |
+                       ((first == 't') & (second == 'i')))) {
+        return false;
+    }
     const ByteBlock third = lowerCaseBlock(bytes + 2);
     return holdsAnywhere(((first == 'f') & ((second == 'p') | ((second == 'r') & (third == 'a')))) |
                          ((first == 't') & (second == 'i') & (third == 'm')));

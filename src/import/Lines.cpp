@@ -27,19 +27,35 @@ std::size_t rareNewlineLength(std::string_view text) {
     }
 }
 
-bool mayHoldRareNewline(const char* bytes) {
+constexpr std::size_t blockSize = sizeof(ByteBlock);
+
+/// All ones for each byte with which a rare newline begins, and for some that begin others.
+ByteBlock rareNewlineStarts(const char* bytes) {
     const ByteBlock block = loadBlock(bytes);
-    return holdsAnywhere((block - 0x0B < 3) | (block == 0xC2) | (block == 0xE2));
+    return ByteBlock((block - 0x0B < 3) | ((block | 0x20) == 0xE2));
+}
+
+bool mayHoldRareNewline(std::string_view text) {
+    if (text.size() < blockSize) {
+        return std::ranges::any_of(text, [](char c) {
+            const auto byte = static_cast<std::uint8_t>(c);
+            return (byte >= 0x0B && byte <= 0x0D) || (byte | 0x20) == 0xE2;
+        });
+    }
+    ByteBlock found = rareNewlineStarts(text.data() + text.size() - blockSize);
+    for (std::size_t end = blockSize; end < text.size(); end += blockSize) {
+        found |= rareNewlineStarts(text.data() + end - blockSize);
+    }
+    return holdsAnywhere(found);
 }
 
 /// The place of the first newline in `text`, which holds no line feed, or the size of `text`.
 std::size_t findRareNewline(std::string_view text) {
-    constexpr std::size_t blockSize = sizeof(ByteBlock);
     std::size_t position = 0;
     if (text.size() >= blockSize) {
         // The last block overlaps the one before it.
         const std::size_t last = text.size() - blockSize;
-        while (!mayHoldRareNewline(text.data() + position)) {
+        while (!holdsAnywhere(rareNewlineStarts(text.data() + position))) {
             if (position == last) return text.size();
             position = std::min(position + blockSize, last);
         }
@@ -50,24 +66,23 @@ std::size_t findRareNewline(std::string_view text) {
 
 }  // namespace
 
-/// The C library looks for line feeds faster than anybody else. Other newlines are looked for only
-/// up to the next one, so that each is sought once, whatever the text consists of.
-void Lines::findLineFeed() {
-    lineFeed = std::min(text.find('\n', position), text.size());
+/// Looks for other newlines than line feeds in many lines at once, few enough to be still in the
+/// processor's cache when they are read.
+void Lines::lookAhead() {
+    constexpr std::size_t stretch = 4096;
+    lookedAt = std::max(lineFeed, std::min(position + stretch, text.size()));
+    mayHoldOthers = mayHoldRareNewline(text.substr(position, lookedAt - position));
 }
 
-std::optional<std::string_view> Lines::next() {
-    if (isThrough) return std::nullopt;
+/// They are looked for only up to the next line feed, so that each is sought once, whatever the
+/// text consists of.
+std::string_view Lines::nextAtAnyNewline() {
     const std::string_view line = text.substr(position, lineFeed - position);
     const std::size_t size = findRareNewline(line);
-    position += size;
     if (size < line.size()) {
-        position += rareNewlineLength(line.substr(size));
-    } else if (lineFeed < text.size()) {
-        ++position;
-        findLineFeed();
+        position += size + rareNewlineLength(line.substr(size));
     } else {
-        isThrough = true;
+        passLineFeed();
     }
     return line.substr(0, size);
 }

@@ -4,10 +4,11 @@
 #include <algorithm>
 #include <bit>
 #include <cstdint>
+#include <span>
 
 #include "base/Characters.h"
 #include "import/EventLine.h"
-#include "timecode/TwoDigitFields.h"
+#include "timecode/PackedTimecode.h"
 
 namespace clipvane {
 namespace {
@@ -37,21 +38,25 @@ bool areDigits(std::string_view text) {
                                [](char c) { return isASCIIDigit(static_cast<unsigned char>(c)); });
 }
 
-/// Takes the columns of a line one after the other; gives empty text where one is not plain.
+/// Goes along a line that has more than a column to come. What is not plain gives nothing.
 class PlainColumns {
   public:
-    explicit PlainColumns(std::string_view line) : rest(line) { skipBlanks(); }
+    explicit PlainColumns(std::string_view line) : at(line.data()), end(at + line.size()) {
+        skipBlanks();
+    }
 
-    /// A column and the blanks behind it. Eight bytes are looked at together, which a line has
+    /// A column, and the blanks behind it. Eight bytes are looked at together, which a line has
     /// behind every column but the last timecode.
     std::string_view take() {
-        std::size_t size = 0;
-        while (size + wordSize <= rest.size()) {
-            const std::size_t prefix = graphicPrefix(eightCharacters(rest.data() + size));
-            size += prefix;
-            if (prefix < wordSize) return takeColumn(size);
+        const char* const begin = at;
+        std::size_t prefix = wordSize;
+        while (prefix == wordSize) {
+            if (left() < wordSize) return {};
+            prefix = graphicPrefix(eightCharacters(at));
+            at += prefix;
         }
-        return {};
+        const std::string_view column(begin, static_cast<std::size_t>(at - begin));
+        return skipBlanks() ? column : std::string_view();
     }
 
     std::string_view takeNumber() {
@@ -59,33 +64,29 @@ class PlainColumns {
         return areDigits(column) ? column : std::string_view();
     }
 
-    bool isAtTimecode() const {
-        const auto timecode = readTwoDigitTimecode(rest.substr(0, twoDigitLength));
-        return timecode && !timecode->isDropFrame;
-    }
+    /// Whether a timecode comes rather than a duration, which is digits alone.
+    bool isAtTimecode() const { return left() > 2 && at[2] == ':'; }
 
-    std::string_view takeTimecode() {
-        return isAtTimecode() ? takeColumn(twoDigitLength) : std::string_view();
-    }
-    std::string_view takeLastTimecode() const {
-        return isAtTimecode() ? rest.substr(0, twoDigitLength) : std::string_view();
+    std::optional<PackedTimecode> takeTimecode() {
+        if (!isSeparated || left() < twoDigitLength) return std::nullopt;
+        const std::span<const char, twoDigitLength> text(at, twoDigitLength);
+        at += twoDigitLength;
+        isSeparated = skipBlanks();
+        return PackedTimecode::pack(text);
     }
 
   private:
-    std::string_view takeColumn(std::size_t size) {
-        const std::string_view column = rest.substr(0, size);
-        rest.remove_prefix(size);
-        return skipBlanks() ? column : std::string_view();
-    }
+    std::size_t left() const { return static_cast<std::size_t>(end - at); }
 
     bool skipBlanks() {
-        std::size_t count = 0;
-        while (count < rest.size() && isPlainBlank(rest[count])) ++count;
-        rest.remove_prefix(count);
-        return count > 0;
+        const char* const begin = at;
+        while (at != end && isPlainBlank(*at)) ++at;
+        return at != begin;
     }
 
-    std::string_view rest;
+    const char* at;
+    const char* end;
+    bool isSeparated = true;  ///< blanks stand before what comes, or a beginning
 };
 
 }  // namespace
@@ -99,15 +100,13 @@ std::optional<EventLine> matchPlainEventLine(std::string_view line) {
     event.track = columns.take();
     const std::string_view editType = columns.take();
     if (event.reel.empty() || event.track.empty() || editType.empty()) return std::nullopt;
-    if (!columns.isAtTimecode() && columns.takeNumber().empty()) return std::nullopt;
 
-    event.sourceIn = columns.takeTimecode();
-    event.sourceOut = columns.takeTimecode();
-    event.recordIn = columns.takeTimecode();
-    event.recordOut = columns.takeLastTimecode();
-    const bool hasAll = !event.sourceIn.empty() && !event.sourceOut.empty() &&
-                        !event.recordIn.empty() && !event.recordOut.empty();
-    if (!hasAll) return std::nullopt;
+    if (!columns.isAtTimecode() && columns.takeNumber().empty()) return std::nullopt;
+    for (FoundTimecode& timecode : event.timecodes) {
+        const auto packed = columns.takeTimecode();
+        if (!packed) return std::nullopt;
+        timecode = *packed;
+    }
     return event;
 }
 

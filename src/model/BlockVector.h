@@ -34,9 +34,9 @@ class BlockVector {
         return blocks[index / blockSize][index % blockSize];
     }
 
-    void push_back(Element element) {
+    Element& push_back(Element element) {
         if (blocks.empty() || blocks.back().size() == blockSize) addBlock();
-        blocks.back().push_back(std::move(element));
+        return blocks.back().emplace_back(std::move(element));
     }
 
   private:

@@ -84,18 +84,16 @@ void EventList::setComments(std::size_t row, std::string text) {
 }
 
 std::uint32_t EventList::addRow(const TimelineEvent& event) {
-    const std::uint32_t index = addRow({.eventNumber = event.eventNumber,
-                                        .clipName = event.clipName,
-                                        .reelID = event.reelID,
-                                        .sourceIn = event.sourceIn,
-                                        .sourceOut = event.sourceOut,
-                                        .recordIn = event.recordIn,
-                                        .recordOut = event.recordOut,
-                                        .format = event.format,
-                                        .track = event.track,
-                                        .comments = event.comments,
-                                        .highlighted = event.highlighted,
-                                        .lines = texts.copy(event.rawText)});
+    const std::uint32_t index =
+        addRow({.eventNumber = event.eventNumber,
+                .clipName = event.clipName,
+                .reelID = event.reelID,
+                .track = event.track,
+                .timecodes = {event.sourceIn, event.sourceOut, event.recordIn, event.recordOut},
+                .format = event.format,
+                .comments = event.comments,
+                .highlighted = event.highlighted,
+                .lines = texts.copy(event.rawText)});
     identifiers.set(index, event.id);
     return index;
 }
@@ -105,11 +103,11 @@ std::uint32_t EventList::addRow(const FoundEvent& event) {
         throw std::length_error("more events than a list can number");
     }
     const auto index = static_cast<std::uint32_t>(rows.size());
-    rows.push_back({});
-    EventRow& row = rows[index];
+    EventRow& row = rows.push_back({});
     placeTexts(row, index, event);
-    row.timecodes = {keepTimecode(event.sourceIn), keepTimecode(event.sourceOut),
-                     keepTimecode(event.recordIn), keepTimecode(event.recordOut)};
+    for (std::size_t i = 0; i < row.timecodes.size(); ++i) {
+        row.timecodes[i] = keepTimecode(event.timecodes[i]);
+    }
     if (!event.comments.empty()) {
         comments.insert_or_assign(index, event.comments);
         row.hasComments = true;
@@ -155,13 +153,12 @@ void EventList::placeTexts(EventRow& row, std::uint32_t index, const FoundEvent&
     }
 }
 
-RowTimecode EventList::keepTimecode(std::string_view text) {
-    if (text.empty()) return {};
-    if (const auto packed = PackedTimecode::pack(text)) return *packed;
+RowTimecode EventList::keepTimecode(const FoundTimecode& timecode) {
+    if (timecode.oddText().empty()) return timecode.usual();
     if (oddTimecodes.size() > RowTimecode::mostTexts) {
         throw std::length_error("more timecodes of an unusual form than a list can number");
     }
-    oddTimecodes.push_back(std::string(text));
+    oddTimecodes.push_back(std::string(timecode.oddText()));
     return RowTimecode::ofText(static_cast<std::uint32_t>(oddTimecodes.size() - 1));
 }
 

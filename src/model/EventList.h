@@ -15,30 +15,13 @@
 #include "model/BlockVector.h"
 #include "model/EventRow.h"
 #include "model/EventView.h"
+#include "model/FoundEvent.h"
 #include "model/LazyIdentifiers.h"
 #include "model/TextStore.h"
 #include "model/TimelineEvent.h"
 #include "timecode/Timecode.h"
 
 namespace clipvane {
-
-/// What a reader found out about an event. Views, for as long as it takes to append it; but
-/// `lines` must lie in a text that the list keeps.
-struct FoundEvent {
-    std::string_view eventNumber;
-    std::string_view clipName;
-    std::string_view reelID;
-    std::string_view sourceIn;
-    std::string_view sourceOut;
-    std::string_view recordIn;
-    std::string_view recordOut;
-    std::string_view format;
-    std::string_view track;
-    std::string_view comments{};
-    bool highlighted = false;
-    std::string_view lines;  ///< the source text, or lines that it is joined of
-    bool isJoined = false;
-};
 
 /// The events of a timeline, in order, as rows over the file's own text, which the list keeps. A
 /// million events take 60 MB beside the text, and removing one moves four bytes for each behind it.
@@ -104,7 +87,7 @@ class EventList {
     std::uint32_t addRow(const FoundEvent& event);
     std::uint32_t addRow(const TimelineEvent& event);
     void placeTexts(EventRow& row, std::uint32_t index, const FoundEvent& event);
-    RowTimecode keepTimecode(std::string_view text);
+    RowTimecode keepTimecode(const FoundTimecode& timecode);
     std::string_view timecodeText(RowTimecode timecode, std::span<char, twoDigitLength> room) const;
     void forget(std::uint32_t index) noexcept;
 

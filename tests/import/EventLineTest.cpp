@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "support/RowName.h"
+#include "support/TimecodeText.h"
 
 namespace clipvane::test {
 namespace {
@@ -26,10 +27,10 @@ class EventLineColumns : public testing::TestWithParam<Row> {};
 TEST_P(EventLineColumns, AreRead) {
     std::vector<std::string> columns;
     if (const auto line = matchEventLine(GetParam().line)) {
-        for (const auto column : {line->number, line->reel, line->track, line->sourceIn,
-                                  line->sourceOut, line->recordIn, line->recordOut}) {
+        for (const auto column : {line->number, line->reel, line->track}) {
             columns.emplace_back(column);
         }
+        for (const auto& timecode : line->timecodes) columns.push_back(textOf(timecode));
     }
     EXPECT_THAT(columns, testing::ElementsAreArray(GetParam().columns));
 }

@@ -117,6 +117,21 @@ TEST(LinesJudge, GeneratedTexts_AreSplitAtMandatoryBreaks) {
     }
 }
 
+/// Texts in which long stretches hold line feeds alone, and others do not.
+TEST(LinesJudge, LongTexts_AreSplitAtMandatoryBreaks) {
+    CLIPVANE_LONG_TEST();
+    constexpr std::array rareEnds{"\r"sv, "\r\n"sv, "\v"sv, "\u0085"sv, "\u2028"sv, "\u00C2"sv};
+    Random random;
+    for (std::size_t left = scaled(300); left > 0; --left) {
+        std::string text;
+        for (auto linesLeft = random.below(60); linesLeft > 0; --linesLeft) {
+            text.append(random.oneIn(20) ? random.below(6000) : random.below(100), 'x');
+            text += random.oneIn(30) ? random.pick(rareEnds) : "\n"sv;
+        }
+        ASSERT_EQ(linesOf(text), linesByProperty(utf16(text)));
+    }
+}
+
 TEST(LinesJudge, EveryCodePoint_SplitsAsItsPropertySays) {
     CLIPVANE_LONG_TEST();
     for (UChar32 c = 0; c <= 0x10FFFF; ++c) {

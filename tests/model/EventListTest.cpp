@@ -93,12 +93,9 @@ FoundEvent foundIn(std::string_view text) {
     return {.eventNumber = text.substr(0, 3),
             .clipName = text.substr(text.size() - 4),
             .reelID = text.substr(4, 2),
-            .sourceIn = text.substr(11, 11),
-            .sourceOut = "",
-            .recordIn = "01:00:00;12",
-            .recordOut = "02:00:00:00",
-            .format = "EDL",
             .track = text.substr(7, 1),
+            .timecodes = {text.substr(11, 11), "", "01:00:00;12", "02:00:00:00"},
+            .format = "EDL",
             .lines = text};
 }
 
