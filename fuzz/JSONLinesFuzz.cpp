@@ -7,6 +7,7 @@
 #include "Target.h"
 #include "base/UTF8.h"
 #include "cli/EventLines.h"
+#include "model/TimelineEventJSON.h"
 #include "support/SameFields.h"
 
 namespace {
@@ -23,6 +24,16 @@ void requireSame(const TimelineDocument& a, const TimelineDocument& b) {
     }
 }
 
+/// Each line begins with the event's keyed form.
+void requireEncoded(const TimelineDocument& document, std::string_view lines) {
+    for (const EventView& event : document.events) {
+        std::string form = encodeJSON(event.record());
+        form.pop_back();  // the brace
+        require(lines.starts_with(form), "a line begins with the event's keyed form");
+        lines.remove_prefix(lines.find('\n') + 1);
+    }
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -35,6 +46,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     const auto lines = unlessFatal([&] { return cli::eventLines(**document, "-"); });
     if (!lines) return 0;
+    requireEncoded(**document, *lines);
     const auto again = cli::parseEventLines(*lines, std::nullopt);
     require(again.has_value(), "what is printed can be read");
     requireSame(**document, **again);

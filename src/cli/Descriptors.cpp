@@ -104,7 +104,6 @@ void prepareStandardFiles() {
         // The lowest free number is this one. Where it cannot be had, neither can any other file.
         static_cast<void>(::open("/dev/null", ways[static_cast<std::size_t>(descriptor)]));
     }
-    std::signal(SIGPIPE, SIG_DFL);
     std::signal(SIGXFSZ, SIG_IGN);
 }
 

@@ -27,8 +27,7 @@ Result<std::string> readAll(int descriptor);
 int writeAll(int descriptor, std::string_view bytes);
 
 /// Makes the standard files that are closed fail where they are used, so that no other file takes
-/// their numbers; lets a closed pipe end the program, and a file-size limit be an error like
-/// others.
+/// their numbers; lets a file-size limit be an error like others.
 void prepareStandardFiles();
 
 }  // namespace clipvane::cli

@@ -6,9 +6,11 @@
 #include <algorithm>
 #include <cstdint>
 #include <nlohmann/json.hpp>
+#include <utility>
 
 #include "base/Number.h"
 #include "cli/FrameCounts.h"
+#include "cli/JSONText.h"
 #include "cli/Reason.h"
 #include "model/FrameRateSource.h"
 #include "model/TimelineEventJSON.h"
@@ -18,8 +20,27 @@ namespace {
 
 using nlohmann::json;
 
-std::string jsonText(std::string_view text) {
-    return json(text).dump(-1, ' ', false, json::error_handler_t::replace);
+void appendValue(std::string& line, std::string_view text) {
+    appendJSONText(line, text);
+}
+void appendValue(std::string& line, const UUID& id) {
+    appendJSONText(line, id.text());
+}
+void appendValue(std::string& line, bool value) {
+    line += value ? "true" : "false";
+}
+
+/// The thirteen keys with the event's values, as `encodeJSON` writes them, without a brace behind.
+void appendEvent(std::string& line, const TimelineEvent& event) {
+    char before = '{';
+    const auto append = [&](std::string_view key, const auto& value) {
+        line += std::exchange(before, ',');
+        line += '"';
+        line += key;
+        line += "\":";
+        appendValue(line, value);
+    };
+    forEachField(append, event);
 }
 
 void appendCount(std::string& line, std::string_view key, FrameCounts::Count count) {
@@ -99,14 +120,15 @@ Result<void> takeLine(std::string_view line, std::optional<double> fps,
 }  // namespace
 
 std::string eventLines(const TimelineDocument& document, std::string_view file) {
-    const std::string origin = ",\"file\":" + jsonText(file) + ",\"row\":";
-    const std::string rate =
-        ",\"fps\":" + json(document.fps).dump() + ",\"fpsSource\":" + jsonText(document.fpsSource);
+    std::string origin = ",\"file\":";
+    appendJSONText(origin, file);
+    origin += ",\"row\":";
+    std::string rate = ",\"fps\":" + json(document.fps).dump() + ",\"fpsSource\":";
+    appendJSONText(rate, document.fpsSource);
     std::string lines;
     std::int64_t row = 0;
     for (const EventView& event : document.events) {
-        lines += encodeJSON(event.record());
-        lines.pop_back();  // the brace
+        appendEvent(lines, event.record());
         lines += origin;
         appendInteger(lines, ++row);
         lines += rate;

@@ -5,6 +5,8 @@
 
 #include <unicode/uchar.h>
 
+#include <algorithm>
+
 #include "base/UTF8.h"
 
 namespace clipvane::cli {
@@ -12,6 +14,11 @@ namespace {
 
 constexpr std::string_view replacement = "\uFFFD";
 constexpr std::string_view ellipsis = "\u2026";
+
+/// Whether all is ASCII that is shown as it is, as most texts are.
+bool isPlain(std::string_view text) {
+    return std::ranges::all_of(text, [](char c) { return c >= 0x20 && c < 0x7F; });
+}
 
 /// Control and format characters, line and paragraph separators. The joiners stay: names in some
 /// scripts are written with them.
@@ -75,6 +82,7 @@ std::string_view ending(std::string_view text, std::size_t columns) {
 }  // namespace
 
 std::string shown(std::string_view text) {
+    if (isPlain(text)) return std::string(text);
     std::string result;
     result.reserve(text.size());
     while (!text.empty()) {
@@ -88,6 +96,7 @@ std::string shown(std::string_view text) {
 }
 
 std::size_t columnsOf(std::string_view text) {
+    if (isPlain(text)) return text.size();
     std::size_t columns = 0;
     while (!text.empty()) {
         const CodePoint next = firstCodePoint(text);

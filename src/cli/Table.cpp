@@ -29,13 +29,19 @@ void appendRow(std::string& text, const std::vector<std::string>& cells,
                const std::vector<std::size_t>& widths) {
     std::size_t blanks = 0;  // none are left behind the last cell
     for (std::size_t i = 0; i < cells.size(); ++i) {
-        const std::string cell = elided(cells[i], std::max<std::size_t>(widths[i], 1));
-        if (!cell.empty()) {
+        std::size_t used = columnsOf(cells[i]);
+        if (!cells[i].empty()) {
             text.append(blanks, ' ');
-            text += cell;
             blanks = 0;
         }
-        blanks += widths[i] - columnsOf(cell) + gap;
+        if (used <= widths[i]) {
+            text += cells[i];
+        } else {
+            const std::string cell = elided(cells[i], std::max<std::size_t>(widths[i], 1));
+            text += cell;
+            used = columnsOf(cell);
+        }
+        blanks += widths[i] - used + gap;
     }
     text += '\n';
 }
