@@ -46,11 +46,12 @@ set(CPACK_DEBIAN_CLI_PACKAGE_NAME clipvane-cli)
 set(CPACK_DEBIAN_CLI_PACKAGE_SECTION video)
 set(CPACK_DEBIAN_CLI_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_CLI_DESCRIPTION
-"lists, converts, checks and stamps edit timelines in scripts
+"lists, converts, checks, stamps and compares edit timelines in scripts
 Clipvane reads EDL, XMEML and FCPXML timelines, exactly to the frame. This
 program for the command line prints their events as a table, CSV, TSV or
 lines of JSON, writes them as EDLs, tells what is not read and what looks
-wrong, and writes into an EDL at which rate it counts.
+wrong, writes into an EDL at which rate it counts, and tells what changed
+between two cuts.
 .
 It needs no desktop.")
 

@@ -22,6 +22,8 @@ set(expected
     lib/libclipvane_timecode.a
     share/applications/clipvane.desktop
     share/bash-completion/completions/clipvane-cli
+    share/doc/clipvane-cli/diff.md
+    share/doc/clipvane-cli/recipes.md
     share/doc/clipvane/LICENSE
     share/icons/hicolor/16x16/apps/clipvane.png
     share/icons/hicolor/24x24/apps/clipvane.png
