@@ -11,11 +11,11 @@
 #include <string>
 #include <vector>
 
+#include <clipvane/TimelineParser.h>
 #include "BenchmarkFile.h"
 #include "GeneratedTimeline.h"
 #include "Ratio.h"
 #include "base/File.h"
-#include "import/TimelineParser.h"
 
 namespace clipvane {
 namespace {

@@ -5,7 +5,7 @@
 
 #include <fstream>
 
-#include "base/UUID.h"
+#include <clipvane/UUID.h>
 
 namespace clipvane {
 

@@ -5,11 +5,11 @@
 #include <random>
 #include <string>
 
+#include <clipvane/Timecode.h>
+#include <clipvane/TimelineParser.h>
+#include <clipvane/diff/CutDiff.h>
 #include "GeneratedTimeline.h"
 #include "Ratio.h"
-#include "commands/diff/CutDiff.h"
-#include "import/TimelineParser.h"
-#include "timecode/Timecode.h"
 
 namespace clipvane {
 namespace {

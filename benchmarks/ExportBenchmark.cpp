@@ -4,13 +4,13 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <clipvane/CSVReport.h>
+#include <clipvane/EditedEDL.h>
+#include <clipvane/TimelineParser.h>
 #include "BenchmarkFile.h"
 #include "GeneratedTimeline.h"
 #include "Ratio.h"
 #include "base/Descriptor.h"
-#include "commands/CSVReport.h"
-#include "commands/EditedEDL.h"
-#include "import/TimelineParser.h"
 
 /// Stands in for the system's own in this program: how fast the disk takes a file is not what is
 /// measured here.

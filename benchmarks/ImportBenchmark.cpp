@@ -9,11 +9,11 @@
 #include <cstring>
 #include <memory>
 
+#include <clipvane/TimelineParser.h>
 #include "BenchmarkFile.h"
 #include "GeneratedTimeline.h"
 #include "Ratio.h"
 #include "base/Descriptor.h"
-#include "import/TimelineParser.h"
 
 namespace clipvane {
 namespace {

@@ -12,10 +12,10 @@
 #include <cstdlib>
 #include <string_view>
 
+#include <clipvane/TimelineParser.h>
 #include "BenchmarkFile.h"
 #include "GeneratedTimeline.h"
 #include "Ratio.h"
-#include "import/TimelineParser.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
+#include <clipvane/TimelineParser.h>
+#include <clipvane/TimelineRate.h>
 #include "GeneratedTimeline.h"
 #include "Ratio.h"
-#include "commands/TimelineRate.h"
-#include "import/TimelineParser.h"
 
 namespace clipvane {
 namespace {

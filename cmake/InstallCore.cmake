@@ -11,9 +11,8 @@ set(core_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/Clipvane)
 install(TARGETS ${core_targets} EXPORT ClipvaneTargets
         ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT core)
 foreach(floor base model timecode import commands)
-    install(DIRECTORY ${PROJECT_SOURCE_DIR}/src/${floor}
-            DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/clipvane COMPONENT core
-            FILES_MATCHING PATTERN "*.h")
+    install(DIRECTORY ${PROJECT_SOURCE_DIR}/src/${floor}/public/
+            DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT core)
 endforeach()
 install(EXPORT ClipvaneTargets NAMESPACE Clipvane:: DESTINATION ${core_package_dir}
         COMPONENT core)

@@ -4,10 +4,10 @@
 // The EDL reader gives the events that ICU's engine finds with the event pattern, and bytes become
 // the text that ICU makes of them.
 
+#include <clipvane/TimelineParser.h>
 #include "Events.h"
 #include "Target.h"
 #include "base/UTF8.h"
-#include "import/TimelineParser.h"
 #include "judges/EDLJudge.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -6,14 +6,14 @@
 
 #include <string_view>
 
+#include <clipvane/Timecode.h>
+#include <clipvane/TimelineParser.h>
+#include <clipvane/diff/CutDiff.h>
 #include "Target.h"
 #include "base/UTF8.h"
 #include "commands/diff/ChangeList.h"
-#include "commands/diff/CutDiff.h"
 #include "commands/diff/DiffLines.h"
 #include "commands/diff/DiffTable.h"
-#include "import/TimelineParser.h"
-#include "timecode/Timecode.h"
 
 namespace clipvane::fuzz {
 namespace {

@@ -4,11 +4,11 @@
 // An EDL through import and every export and back: columns end at white space and names at the
 // line's end, so that every event comes back.
 
+#include <clipvane/FrameRateSource.h>
+#include <clipvane/TimelineParser.h>
 #include "ReadBack.h"
 #include "Target.h"
 #include "base/UTF8.h"
-#include "import/TimelineParser.h"
-#include "model/FrameRateSource.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace clipvane;

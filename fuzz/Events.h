@@ -5,8 +5,8 @@
 
 #include <vector>
 
-#include "model/EventList.h"
-#include "model/TimelineEvent.h"
+#include <clipvane/EventList.h>
+#include <clipvane/TimelineEvent.h>
 #include "support/SameFields.h"
 
 namespace clipvane::fuzz {

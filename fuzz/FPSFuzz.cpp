@@ -4,9 +4,9 @@
 // The frame-rate detection gives the rate that ICU's engine finds with the four patterns, whether
 // or not invalid bytes were replaced before: no pattern asks for one.
 
+#include <clipvane/TimelineParser.h>
 #include "Target.h"
 #include "base/UTF8.h"
-#include "import/TimelineParser.h"
 #include "judges/FrameRateJudge.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

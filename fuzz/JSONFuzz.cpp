@@ -7,10 +7,10 @@
 #include <algorithm>
 #include <nlohmann/json.hpp>
 
+#include <clipvane/TimelineEventJSON.h>
 #include "Events.h"
 #include "Target.h"
 #include "base/UTF8.h"
-#include "model/TimelineEventJSON.h"
 
 namespace {
 

@@ -4,10 +4,10 @@
 // The lines of JSON that the batch program takes: a refusal has its reason, and what is read is
 // printed and read again, whole.
 
+#include <clipvane/TimelineEventJSON.h>
 #include "Target.h"
 #include "base/UTF8.h"
 #include "cli/EventLines.h"
-#include "model/TimelineEventJSON.h"
 #include "support/SameFields.h"
 
 namespace {

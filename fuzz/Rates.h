@@ -7,7 +7,7 @@
 #include <cstring>
 #include <string_view>
 
-#include "timecode/FrameRate.h"
+#include <clipvane/FrameRate.h>
 
 namespace clipvane::fuzz {
 

@@ -9,14 +9,14 @@
 #include <string>
 #include <vector>
 
+#include <clipvane/CSVReport.h>
+#include <clipvane/EditedEDL.h>
+#include <clipvane/TimelineEventJSON.h>
+#include <clipvane/TimelineParser.h>
 #include "Events.h"
 #include "Target.h"
 #include "base/Characters.h"
 #include "base/UTF8.h"
-#include "commands/CSVReport.h"
-#include "commands/EditedEDL.h"
-#include "import/TimelineParser.h"
-#include "model/TimelineEventJSON.h"
 
 namespace clipvane::fuzz {
 namespace {

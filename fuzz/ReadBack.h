@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "model/TimelineDocument.h"
+#include <clipvane/TimelineDocument.h>
 
 namespace clipvane::fuzz {
 

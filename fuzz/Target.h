@@ -11,7 +11,7 @@
 #include <string_view>
 #include <utility>
 
-#include "base/Fatal.h"
+#include <clipvane/Fatal.h>
 #include "judges/TimecodeJudge.h"
 
 namespace clipvane::fuzz {

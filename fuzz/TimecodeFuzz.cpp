@@ -4,13 +4,13 @@
 // The timecode arithmetic is that of plain 128-bit integers and the C library, and has the
 // properties of counting: what was written is read again, and a higher rate loses nothing.
 
-#include "timecode/Timecode.h"
+#include <clipvane/Timecode.h>
 
 #include <cstdlib>
 
+#include <clipvane/FrameRate.h>
 #include "Rates.h"
 #include "Target.h"
-#include "timecode/FrameRate.h"
 
 namespace {
 

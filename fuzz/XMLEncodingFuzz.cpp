@@ -5,10 +5,10 @@
 
 #include <unicode/unistr.h>
 
+#include <clipvane/TimelineParser.h>
 #include "Events.h"
 #include "Target.h"
 #include "base/UTF8.h"
-#include "import/TimelineParser.h"
 #include "import/XMLEncoding.h"
 #include "judges/Pattern.h"
 #include "support/Records.h"

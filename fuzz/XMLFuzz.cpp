@@ -4,13 +4,13 @@
 // The XML reader gives the events of a reader that goes step by step, at the rate that the document
 // names.
 
+#include <clipvane/FrameRateSource.h>
+#include <clipvane/TimelineParser.h>
 #include "Events.h"
 #include "Target.h"
 #include "base/UTF8.h"
-#include "import/TimelineParser.h"
 #include "import/XMLEncoding.h"
 #include "judges/XMLJudge.h"
-#include "model/FrameRateSource.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace clipvane;

@@ -4,12 +4,12 @@
 // An XML timeline through import and every export and back. Names and columns may hold anything,
 // so that the EDL is written of those events alone that one can hold.
 
+#include <clipvane/EditedEDL.h>
+#include <clipvane/FrameRateSource.h>
+#include <clipvane/TimelineParser.h>
 #include "ReadBack.h"
 #include "Target.h"
 #include "base/UTF8.h"
-#include "commands/EditedEDL.h"
-#include "import/TimelineParser.h"
-#include "model/FrameRateSource.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace clipvane;

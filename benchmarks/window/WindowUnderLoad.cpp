@@ -9,7 +9,7 @@
 #include <QClipboard>
 #include <QKeyEvent>
 
-#include "base/Fatal.h"
+#include <clipvane/Fatal.h>
 #include "ui/CommentsView.h"
 #include "ui/EventTableView.h"
 #include "ui/FrameRatePopup.h"

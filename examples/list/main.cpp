@@ -6,13 +6,15 @@
 //     list cut.fcpxml
 //     list cut.fcpxml 25
 
+#include <charconv>
 #include <cstdio>
+#include <string>
+#include <string_view>
 
-#include "base/Number.h"
-#include "commands/TimelineRate.h"
-#include "import/TimelineParser.h"
-#include "model/FrameRateSource.h"
-#include "timecode/FrameRate.h"
+#include <clipvane/FrameRate.h>
+#include <clipvane/FrameRateSource.h>
+#include <clipvane/TimelineParser.h>
+#include <clipvane/TimelineRate.h>
 
 namespace {
 
@@ -20,11 +22,18 @@ std::string shown(std::string_view field) {
     return field.empty() ? "-" : std::string(field);
 }
 
+/// The rate that `text` begins with, or 0.
+double rateIn(std::string_view text) {
+    double rate = 0;
+    std::from_chars(text.data(), text.data() + text.size(), rate);
+    return rate;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
     using namespace clipvane;
-    const double rate = argc == 3 ? parseNumber(argv[2]).value_or(0) : 0;
+    const double rate = argc == 3 ? rateIn(argv[2]) : 0;
     if (argc != 2 && !(rate > 0 && rate <= 1000)) {
         std::fputs("usage: list TIMELINE [FPS]\n", stderr);
         return 2;

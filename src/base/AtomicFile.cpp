@@ -12,8 +12,8 @@
 #include <cstdio>
 #include <optional>
 
+#include <clipvane/UUID.h>
 #include "base/Links.h"
-#include "base/UUID.h"
 
 namespace clipvane {
 namespace {

@@ -9,8 +9,8 @@
 #include <string>
 #include <string_view>
 
+#include <clipvane/Error.h>
 #include "base/Descriptor.h"
-#include "base/Error.h"
 
 namespace clipvane {
 

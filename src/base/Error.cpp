@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
-#include "base/Error.h"
+#include <clipvane/Error.h>
 
 #include <system_error>
 

@@ -8,7 +8,7 @@
 #include <memory>
 #include <string_view>
 
-#include "base/Error.h"
+#include <clipvane/Error.h>
 
 namespace clipvane {
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
-#include "base/UUID.h"
+#include <clipvane/UUID.h>
 
 #include <cstring>
 

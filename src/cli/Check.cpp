@@ -6,12 +6,12 @@
 #include <iterator>
 #include <utility>
 
+#include <clipvane/FrameRate.h>
+#include <clipvane/FrameRateSource.h>
 #include "cli/EDLFindings.h"
 #include "cli/EventFindings.h"
 #include "cli/Impossible.h"
 #include "cli/XMLFindings.h"
-#include "model/FrameRateSource.h"
-#include "timecode/FrameRate.h"
 
 namespace clipvane::cli {
 namespace {

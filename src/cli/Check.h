@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "base/Error.h"
+#include <clipvane/Error.h>
 #include "cli/Finding.h"
 #include "cli/TimelineReading.h"
 

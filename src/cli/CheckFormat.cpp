@@ -5,9 +5,9 @@
 
 #include <nlohmann/json.hpp>
 
+#include <clipvane/FrameRate.h>
 #include "cli/Counted.h"
 #include "cli/Shown.h"
-#include "timecode/FrameRate.h"
 
 namespace clipvane::cli {
 namespace {

@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include <clipvane/TimelineDocument.h>
 #include "cli/Finding.h"
-#include "model/TimelineDocument.h"
 
 namespace clipvane::cli {
 

@@ -4,6 +4,7 @@
 #include <CLI/CLI.hpp>
 #include <string>
 
+#include <clipvane/EditedEDL.h>
 #include "cli/Commands.h"
 #include "cli/Counted.h"
 #include "cli/Impossible.h"
@@ -14,7 +15,6 @@
 #include "cli/ReadingOptions.h"
 #include "cli/Reason.h"
 #include "cli/TimelineReading.h"
-#include "commands/EditedEDL.h"
 
 namespace clipvane::cli {
 namespace {

@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include <clipvane/diff/CutDiff.h>
 #include "cli/Commands.h"
 #include "cli/DiffReading.h"
 #include "cli/Impossible.h"
@@ -21,9 +22,10 @@
 #include "cli/Table.h"
 #include "cli/Terminal.h"
 #include "commands/diff/ChangeList.h"
-#include "commands/diff/CutDiff.h"
+#include "commands/diff/CutPair.h"
 #include "commands/diff/DiffLines.h"
 #include "commands/diff/DiffTable.h"
+#include "commands/diff/ListedEvent.h"
 #include "commands/diff/TextNumbers.h"
 
 namespace clipvane::cli {

@@ -7,14 +7,14 @@
 #include <string>
 #include <utility>
 
+#include <clipvane/FrameRate.h>
+#include <clipvane/TimelineRate.h>
 #include "base/UTF8.h"
 #include "cli/DropFrame.h"
 #include "cli/Impossible.h"
 #include "cli/Reason.h"
 #include "cli/TimelineReading.h"
-#include "commands/TimelineRate.h"
 #include "import/XMLReader.h"
-#include "timecode/FrameRate.h"
 
 namespace clipvane::cli {
 namespace {

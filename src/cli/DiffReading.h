@@ -5,12 +5,12 @@
 
 #include <memory>
 
-#include "base/Error.h"
+#include <clipvane/Error.h>
+#include <clipvane/TimelineDocument.h>
 #include "cli/Input.h"
 #include "cli/ReadingOptions.h"
 #include "cli/Session.h"
 #include "commands/diff/FrameCount.h"
-#include "model/TimelineDocument.h"
 
 namespace clipvane::cli {
 

@@ -10,10 +10,10 @@
 #include <string>
 #include <utility>
 
+#include <clipvane/FrameRate.h>
+#include <clipvane/detail/TwoDigitFields.h>
 #include "cli/Counted.h"
 #include "cli/FrameCounts.h"
-#include "timecode/FrameRate.h"
-#include "timecode/TwoDigitFields.h"
 
 namespace clipvane::cli {
 namespace {

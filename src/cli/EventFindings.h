@@ -3,8 +3,8 @@
 
 #pragma once
 
+#include <clipvane/TimelineDocument.h>
 #include "cli/Finding.h"
-#include "model/TimelineDocument.h"
 
 namespace clipvane::cli {
 

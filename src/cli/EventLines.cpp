@@ -8,12 +8,12 @@
 #include <nlohmann/json.hpp>
 #include <utility>
 
+#include <clipvane/FrameRateSource.h>
+#include <clipvane/TimelineEventJSON.h>
 #include "base/Number.h"
 #include "cli/FrameCounts.h"
 #include "cli/JSONText.h"
 #include "cli/Reason.h"
-#include "model/FrameRateSource.h"
-#include "model/TimelineEventJSON.h"
 
 namespace clipvane::cli {
 namespace {

@@ -9,8 +9,8 @@
 #include <string>
 #include <string_view>
 
-#include "base/Error.h"
-#include "model/TimelineDocument.h"
+#include <clipvane/Error.h>
+#include <clipvane/TimelineDocument.h>
 
 namespace clipvane::cli {
 

@@ -3,8 +3,8 @@
 
 #include "cli/FrameCounts.h"
 
+#include <clipvane/Timecode.h>
 #include "base/Number.h"
-#include "timecode/Timecode.h"
 
 namespace clipvane::cli {
 namespace {

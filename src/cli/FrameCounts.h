@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "model/EventView.h"
+#include <clipvane/EventView.h>
 
 namespace clipvane::cli {
 

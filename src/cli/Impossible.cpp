@@ -7,7 +7,7 @@
 #include <new>
 #include <stdexcept>
 
-#include "base/Fatal.h"
+#include <clipvane/Fatal.h>
 #include "cli/Reason.h"
 
 namespace clipvane::cli {

@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "base/Error.h"
+#include <clipvane/Error.h>
 #include "base/File.h"
 #include "cli/FileIdentity.h"
 #include "cli/TimelineFormat.h"

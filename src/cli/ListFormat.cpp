@@ -5,6 +5,8 @@
 
 #include <vector>
 
+#include <clipvane/CSVReport.h>
+#include <clipvane/FrameRate.h>
 #include "base/Characters.h"
 #include "base/Number.h"
 #include "cli/Counted.h"
@@ -12,8 +14,6 @@
 #include "cli/Shown.h"
 #include "cli/TSVReport.h"
 #include "cli/Table.h"
-#include "commands/CSVReport.h"
-#include "timecode/FrameRate.h"
 
 namespace clipvane::cli {
 namespace {

@@ -9,9 +9,9 @@
 #include <string>
 #include <string_view>
 
+#include <clipvane/Error.h>
 #include "base/AtomicFile.h"
 #include "base/Descriptor.h"
-#include "base/Error.h"
 #include "cli/FileIdentity.h"
 
 namespace clipvane::cli {

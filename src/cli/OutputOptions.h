@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
+#include <clipvane/Error.h>
 #include "base/AtomicFile.h"
-#include "base/Error.h"
 #include "cli/Input.h"
 
 namespace CLI {
@@ -19,9 +19,9 @@ namespace clipvane::cli {
 
 /// The options about where data go.
 struct OutputOptions {
-    std::string file;      ///< of -o, as the user wrote it; else empty
-    std::string folder;    ///< of -d; else empty
-    bool inPlace = false;  ///< the inputs themselves
+    std::string file;            ///< of -o, as the user wrote it; else empty
+    std::string folder;          ///< of -d; else empty
+    bool inPlace = false;        ///< the inputs themselves
     bool offersInPlace = false;  ///< whether the command has that option
     bool force = false;
 

@@ -11,12 +11,12 @@
 #include <utility>
 #include <vector>
 
+#include <clipvane/detail/TwoDigitFields.h>
 #include "base/Characters.h"
 #include "base/Number.h"
 #include "import/ClipNameComment.h"
 #include "import/EDLReader.h"
 #include "import/Scan.h"
-#include "timecode/TwoDigitFields.h"
 
 namespace clipvane::cli {
 namespace {

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "model/TimelineDocument.h"
+#include <clipvane/TimelineDocument.h>
 
 namespace clipvane::cli {
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "base/Error.h"
+#include <clipvane/Error.h>
 #include "cli/Messages.h"
 #include "cli/Status.h"
 

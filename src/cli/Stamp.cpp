@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include <clipvane/TimelineEvent.h>
 #include "base/UTF8.h"
 #include "cli/Encoding.h"
 #include "cli/Rate.h"
@@ -17,7 +18,6 @@
 #include "import/FrameRateDetection.h"
 #include "import/Lines.h"
 #include "import/Scan.h"
-#include "model/TimelineEvent.h"
 
 namespace clipvane::cli {
 namespace {

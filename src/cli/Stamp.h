@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "base/Error.h"
+#include <clipvane/Error.h>
 
 namespace clipvane::cli {
 

@@ -3,12 +3,12 @@
 
 #include "cli/TSVReport.h"
 
+#include <clipvane/FrameRate.h>
+#include <clipvane/Timecode.h>
 #include "base/Characters.h"
 #include "base/Number.h"
 #include "base/UTF8.h"
 #include "cli/FrameCounts.h"
-#include "timecode/FrameRate.h"
-#include "timecode/Timecode.h"
 
 namespace clipvane::cli {
 namespace {

@@ -7,16 +7,16 @@
 #include <string>
 #include <utility>
 
+#include <clipvane/FrameRate.h>
+#include <clipvane/FrameRateSource.h>
+#include <clipvane/TimelineRate.h>
 #include "base/UTF8.h"
 #include "cli/EventLines.h"
 #include "cli/Impossible.h"
 #include "cli/Reason.h"
-#include "commands/TimelineRate.h"
 #include "import/EDLReader.h"
 #include "import/FrameRateDetection.h"
 #include "import/XMLReader.h"
-#include "model/FrameRateSource.h"
-#include "timecode/FrameRate.h"
 
 namespace clipvane::cli {
 namespace {

@@ -6,14 +6,14 @@
 #include <memory>
 #include <optional>
 
-#include "base/Error.h"
+#include <clipvane/Error.h>
+#include <clipvane/TimelineDocument.h>
 #include "base/File.h"
 #include "cli/Input.h"
 #include "cli/ReadingOptions.h"
 #include "cli/Session.h"
 #include "cli/TimelineFormat.h"
 #include "import/XMLReader.h"
-#include "model/TimelineDocument.h"
 
 namespace clipvane::cli {
 

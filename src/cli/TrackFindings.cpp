@@ -9,9 +9,9 @@
 #include <utility>
 #include <vector>
 
+#include <clipvane/Timecode.h>
 #include "cli/Counted.h"
 #include "cli/EventFindings.h"
-#include "timecode/Timecode.h"
 
 namespace clipvane::cli {
 namespace {

@@ -1,14 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
-#include "commands/CSVReport.h"
+#include <clipvane/CSVReport.h>
 
 #include <algorithm>
 #include <string_view>
 
+#include <clipvane/FrameRate.h>
+#include <clipvane/Timecode.h>
 #include "commands/EventText.h"
-#include "timecode/FrameRate.h"
-#include "timecode/Timecode.h"
 
 namespace clipvane {
 namespace {

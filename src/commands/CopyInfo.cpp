@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
-#include "commands/CopyInfo.h"
+#include <clipvane/CopyInfo.h>
 
-#include "timecode/FrameRate.h"
-#include "timecode/Timecode.h"
+#include <clipvane/FrameRate.h>
+#include <clipvane/Timecode.h>
 
 namespace clipvane {
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
-#include "commands/DocumentCommands.h"
+#include <clipvane/DocumentCommands.h>
 
 #include <algorithm>
 #include <new>
@@ -9,13 +9,15 @@
 #include <string_view>
 #include <utility>
 
-#include "base/Fatal.h"
+#include <clipvane/CSVReport.h>
+#include <clipvane/CopyInfo.h>
+#include <clipvane/EditedEDL.h>
+#include <clipvane/Fatal.h>
+#include <clipvane/TimelineParser.h>
+#include <clipvane/TimelineRate.h>
 #include "base/Number.h"
-#include "commands/CSVReport.h"
-#include "commands/CopyInfo.h"
-#include "commands/EditedEDL.h"
-#include "commands/TimelineRate.h"
-#include "import/TimelineParser.h"
+#include "commands/LineEnds.h"
+#include "commands/Messages.h"
 
 namespace clipvane {
 namespace {
@@ -44,6 +46,11 @@ void ifMemoryAllows(Action action) try {
 
 }  // namespace
 
+DocumentCommands::DocumentCommands()
+    : lineEnd(LineEnd::lineFeed), noMemory(std::make_unique<NoMemoryAlerts>()) {}
+
+DocumentCommands::~DocumentCommands() = default;
+
 // Each command keeps the alert that lack of memory would end it with: from when its change is made,
 // another one.
 
@@ -57,7 +64,7 @@ void DocumentCommands::tellLackOfMemory(const Alert& alert) {
 }
 
 void DocumentCommands::openTimeline() {
-    const Alert* alert = &noMemory.toOpen;
+    const Alert* alert = &noMemory->toOpen;
     try {
         writeLog(openClickedLine);
         const auto url = runOpenPanel();
@@ -78,7 +85,7 @@ void DocumentCommands::openTimeline() {
         documentModel.removedEvents.clear();
         documentModel.fps = parsed->fps;
         documentModel.fpsSource = std::move(parsed->fpsSource);
-        alert = &noMemory.toShow;
+        alert = &noMemory->toShow;
 
         syncFPSPopup();
         showNewEvents(rowWithin(documentModel.events.size(), 0));
@@ -90,7 +97,7 @@ void DocumentCommands::openTimeline() {
 }
 
 void DocumentCommands::fpsChanged() {
-    const Alert* alert = &noMemory.toChange;
+    const Alert* alert = &noMemory->toChange;
     try {
         const auto title = selectedFPSTitle();
         if (!title) return;
@@ -106,7 +113,7 @@ void DocumentCommands::fpsChanged() {
         });
         documentModel.fps = *fps;
         documentModel.fpsSource = fpsSourceManual;
-        alert = &noMemory.toShow;
+        alert = &noMemory->toShow;
 
         refreshTexts();
         setStatus(convertedStatus(converted, earlier, *fps));
@@ -121,7 +128,7 @@ void DocumentCommands::saveCurrentComment() {
     try {
         storeComment();
     } catch (...) {
-        tellLackOfMemory(noMemory.toChange);
+        tellLackOfMemory(noMemory->toChange);
     }
 }
 
@@ -147,7 +154,7 @@ void DocumentCommands::textDidChange() {
 }
 
 void DocumentCommands::removeSelectedEvent() {
-    const Alert* alert = &noMemory.toChange;
+    const Alert* alert = &noMemory->toChange;
     try {
         storeComment();
         const auto row = selectedRow();
@@ -159,7 +166,7 @@ void DocumentCommands::removeSelectedEvent() {
         const auto erase = [&] {
             removed.push_back(std::move(event));
             events.erase(*row);
-            alert = &noMemory.toShow;
+            alert = &noMemory->toShow;
         };
         // Room for one more, so that nothing fails while the row goes.
         if (removed.size() == removed.capacity()) removed.reserve(removed.size() * 2 + 1);
@@ -171,14 +178,14 @@ void DocumentCommands::removeSelectedEvent() {
 }
 
 void DocumentCommands::copySelectedInfo() {
-    const Alert* alert = &noMemory.toChange;
+    const Alert* alert = &noMemory->toChange;
     try {
         storeComment();
         const auto row = selectedRow();
         if (!row) return;
         setPasteboardText(
             copyInfoText(selectedEvent(*row), documentModel.fps, documentModel.fpsSource));
-        alert = &noMemory.toShow;
+        alert = &noMemory->toShow;
         setStatus(copiedStatus);
     } catch (...) {
         tellLackOfMemory(*alert);
@@ -201,7 +208,7 @@ void DocumentCommands::exportEDL() {
 }
 
 void DocumentCommands::saveFile(const char* defaultName, const Writer& writer) {
-    const Alert* alert = &noMemory.toExport;
+    const Alert* alert = &noMemory->toExport;
     try {
         storeComment();
         const auto url = runSavePanel(defaultName);
@@ -212,7 +219,7 @@ void DocumentCommands::saveFile(const char* defaultName, const Writer& writer) {
             runAlert(exportFailedAlert(written.error()));
             return;
         }
-        alert = &noMemory.toShow;
+        alert = &noMemory->toShow;
         setStatus(exportedStatus(*url));
     } catch (...) {
         tellLackOfMemory(*alert);

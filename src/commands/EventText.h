@@ -11,9 +11,9 @@
 #include <string>
 #include <utility>
 
+#include <clipvane/Error.h>
+#include <clipvane/TimelineDocument.h>
 #include "base/AtomicFile.h"
-#include "base/Error.h"
-#include "model/TimelineDocument.h"
 
 namespace clipvane {
 

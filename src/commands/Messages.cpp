@@ -7,8 +7,8 @@
 #include <charconv>
 #include <cmath>
 
+#include <clipvane/FrameRate.h>
 #include "base/UTF8.h"
-#include "timecode/FrameRate.h"
 
 namespace clipvane {
 namespace {

@@ -7,10 +7,10 @@
 #include <filesystem>
 #include <string>
 
-#include "base/Error.h"
-#include "commands/Alert.h"
-#include "model/TimelineDocument.h"
-#include "model/TimelineParseResult.h"
+#include <clipvane/Alert.h>
+#include <clipvane/Error.h>
+#include <clipvane/TimelineDocument.h>
+#include <clipvane/TimelineParseResult.h>
 
 namespace clipvane {
 

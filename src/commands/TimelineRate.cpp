@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
-#include "commands/TimelineRate.h"
+#include <clipvane/TimelineRate.h>
 
 #include <cmath>
 
-#include "timecode/Timecode.h"
+#include <clipvane/Timecode.h>
 
 namespace clipvane {
 namespace {

@@ -9,6 +9,7 @@
 #include "base/Characters.h"
 #include "base/Number.h"
 #include "import/XMLText.h"
+#include "model/FoundEvent.h"
 
 namespace clipvane {
 namespace {

@@ -11,10 +11,10 @@
 #include <string>
 #include <string_view>
 
+#include <clipvane/EventList.h>
+#include <clipvane/TimelineEvent.h>
 #include "import/XMLAttributes.h"
 #include "import/XMLElement.h"
-#include "model/EventList.h"
-#include "model/TimelineEvent.h"
 
 namespace clipvane {
 

@@ -5,8 +5,8 @@
 
 #include <string>
 
+#include <clipvane/EventList.h>
 #include "base/File.h"
-#include "model/EventList.h"
 
 namespace clipvane {
 

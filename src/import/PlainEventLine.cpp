@@ -6,9 +6,10 @@
 #include <cstdint>
 #include <span>
 
+#include <clipvane/detail/PackedTimecode.h>
+#include <clipvane/detail/TwoDigitFields.h>
 #include "base/Characters.h"
 #include "import/EventLine.h"
-#include "timecode/PackedTimecode.h"
 
 namespace clipvane {
 namespace {

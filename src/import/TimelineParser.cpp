@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
-#include "import/TimelineParser.h"
+#include <clipvane/TimelineParser.h>
 
 #include <algorithm>
 #include <array>
@@ -10,13 +10,13 @@
 #include <stdexcept>
 #include <utility>
 
+#include <clipvane/FrameRateSource.h>
 #include "base/Characters.h"
 #include "base/File.h"
 #include "base/UTF8.h"
 #include "import/EDLReader.h"
 #include "import/FrameRateDetection.h"
 #include "import/XMLReader.h"
-#include "model/FrameRateSource.h"
 
 namespace clipvane {
 namespace {

@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <string_view>
 
-#include "model/EventList.h"
+#include <clipvane/EventList.h>
 
 namespace clipvane {
 

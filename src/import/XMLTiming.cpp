@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
+#include <clipvane/Timecode.h>
 #include "base/Number.h"
 #include "import/CommonTimelineXMLDelegate.h"
 #include "import/XMLText.h"
-#include "timecode/Timecode.h"
 
 namespace clipvane {
 namespace {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
-#include "model/EventList.h"
+#include <clipvane/EventList.h>
 
 #include <algorithm>
 #include <functional>
@@ -9,6 +9,9 @@
 #include <optional>
 #include <stdexcept>
 #include <utility>
+
+#include "base/File.h"
+#include "model/FoundEvent.h"
 
 namespace clipvane {
 namespace {
@@ -57,6 +60,10 @@ EventList& EventList::operator=(const EventList& other) {
 
 void EventList::push_back(const TimelineEvent& event) {
     shown.push_back(addRow(event));
+}
+
+std::string_view EventList::keep(FileBytes bytes) {
+    return texts.keep(std::move(bytes));
 }
 
 void EventList::append(const FoundEvent& event) {

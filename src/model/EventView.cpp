@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
-#include "model/EventView.h"
+#include <clipvane/EventView.h>
 
-#include "model/EventList.h"
+#include <clipvane/EventList.h>
 
 namespace clipvane {
 

@@ -7,8 +7,8 @@
 #include <concepts>
 #include <string_view>
 
-#include "model/EventRow.h"
-#include "timecode/PackedTimecode.h"
+#include <clipvane/detail/EventRow.h>
+#include <clipvane/detail/PackedTimecode.h>
 
 namespace clipvane {
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
-#include "model/LazyIdentifiers.h"
+#include <clipvane/detail/LazyIdentifiers.h>
 
 namespace clipvane {
 

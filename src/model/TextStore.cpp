@@ -1,9 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
-#include "model/TextStore.h"
+#include <clipvane/detail/TextStore.h>
 
 #include <algorithm>
+#include <utility>
+
+#include "base/File.h"
 
 namespace clipvane {
 namespace {

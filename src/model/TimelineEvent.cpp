@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
-#include "model/TimelineEvent.h"
+#include <clipvane/TimelineEvent.h>
 
 #include <unicode/unistr.h>
 #include <unicode/unorm.h>

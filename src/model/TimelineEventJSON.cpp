@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
-#include "model/TimelineEventJSON.h"
+#include <clipvane/TimelineEventJSON.h>
 
 #include <nlohmann/json.hpp>
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
-#include "timecode/FrameRate.h"
+#include <clipvane/FrameRate.h>
 
 #include <algorithm>
 #include <charconv>

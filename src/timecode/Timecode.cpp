@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
-#include "timecode/Timecode.h"
+#include <clipvane/Timecode.h>
 
 #include <algorithm>
 
+#include <clipvane/FrameRate.h>
+#include <clipvane/detail/TwoDigitFields.h>
 #include "base/Number.h"
-#include "timecode/FrameRate.h"
-#include "timecode/TwoDigitFields.h"
 
 namespace clipvane {
 namespace {
@@ -105,8 +105,7 @@ void TimecodeConversion::prepareFrames() {
         // be no number of a double. Any other lies too far from a half to be led across.
         const bool isHalf = halves % (fromBase * 2) == fromBase;
         const bool makesSeconds = rounded >= toBase;
-        newFrames[frames] =
-            isHalf || makesSeconds ? notAlone : static_cast<std::uint8_t>(rounded);
+        newFrames[frames] = isHalf || makesSeconds ? notAlone : static_cast<std::uint8_t>(rounded);
     }
 }
 

@@ -5,7 +5,7 @@
 
 #include <QDialog>
 
-#include "commands/Alert.h"
+#include <clipvane/Alert.h>
 
 namespace clipvane {
 

@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "base/UUID.h"
+#include <clipvane/UUID.h>
 
 namespace clipvane {
 

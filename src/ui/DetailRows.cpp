@@ -3,7 +3,7 @@
 
 #include "ui/DetailRows.h"
 
-#include "timecode/Timecode.h"
+#include <clipvane/Timecode.h>
 #include "ui/Colours.h"
 
 namespace clipvane {

@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-#include "model/TimelineDocument.h"
+#include <clipvane/TimelineDocument.h>
 
 namespace clipvane {
 

@@ -7,7 +7,7 @@
 #include <span>
 #include <string_view>
 
-#include "model/EventView.h"
+#include <clipvane/EventView.h>
 
 namespace clipvane {
 

@@ -3,7 +3,7 @@
 
 #include "ui/EventTableModel.h"
 
-#include "base/Fatal.h"
+#include <clipvane/Fatal.h>
 #include "ui/EventColumn.h"
 #include "ui/Text.h"
 

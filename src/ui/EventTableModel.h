@@ -6,7 +6,7 @@
 #include <QAbstractTableModel>
 #include <functional>
 
-#include "model/TimelineDocument.h"
+#include <clipvane/TimelineDocument.h>
 
 namespace clipvane {
 

@@ -7,7 +7,7 @@
 #include <QKeyEvent>
 #include <QWheelEvent>
 
-#include "timecode/FrameRate.h"
+#include <clipvane/FrameRate.h>
 #include "ui/Fonts.h"
 #include "ui/Text.h"
 

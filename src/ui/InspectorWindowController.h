@@ -6,7 +6,7 @@
 #include <QMainWindow>
 #include <memory>
 
-#include "commands/DocumentCommands.h"
+#include <clipvane/DocumentCommands.h>
 #include "ui/EventTableModel.h"
 #include "ui/FilePanels.h"
 #include "ui/Geometry.h"

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
-#include "base/Fatal.h"
+#include <clipvane/Fatal.h>
 
 #include <gtest/gtest.h>
 

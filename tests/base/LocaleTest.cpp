@@ -8,8 +8,8 @@
 #include <cstdio>
 #include <string>
 
+#include <clipvane/UUID.h>
 #include "base/Number.h"
-#include "base/UUID.h"
 
 namespace clipvane::test {
 namespace {

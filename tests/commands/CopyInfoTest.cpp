@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
-#include "commands/CopyInfo.h"
+#include <clipvane/CopyInfo.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

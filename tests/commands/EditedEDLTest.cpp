@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
-#include "commands/EditedEDL.h"
+#include <clipvane/EditedEDL.h>
 
 #include <gtest/gtest.h>
 

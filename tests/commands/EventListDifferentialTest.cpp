@@ -10,17 +10,17 @@
 #include <array>
 #include <cmath>
 
-#include "commands/CSVReport.h"
-#include "commands/EditedEDL.h"
-#include "commands/TimelineRate.h"
-#include "import/TimelineParser.h"
+#include <clipvane/CSVReport.h>
+#include <clipvane/EditedEDL.h>
+#include <clipvane/FrameRate.h>
+#include <clipvane/Timecode.h>
+#include <clipvane/TimelineParser.h>
+#include <clipvane/TimelineRate.h>
 #include "judges/EDLJudge.h"
 #include "judges/XMLJudge.h"
 #include "support/Random.h"
 #include "support/Records.h"
 #include "support/Scale.h"
-#include "timecode/FrameRate.h"
-#include "timecode/Timecode.h"
 
 namespace clipvane::test {
 namespace {

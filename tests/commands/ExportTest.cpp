@@ -4,8 +4,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "commands/CSVReport.h"
-#include "commands/EditedEDL.h"
+#include <clipvane/CSVReport.h>
+#include <clipvane/EditedEDL.h>
 #include "commands/RecordingCommands.h"
 #include "commands/SampleEvents.h"
 #include "support/Records.h"

@@ -4,9 +4,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <clipvane/TimelineRate.h>
 #include "commands/RecordingCommands.h"
 #include "commands/SampleEvents.h"
-#include "commands/TimelineRate.h"
 #include "support/Records.h"
 #include "support/RowName.h"
 
@@ -39,10 +39,9 @@ class FrameRateChange : public testing::Test {
 
 TEST_F(FrameRateChange, OtherRate_StepByStep) {
     choose("24 fps");
-    EXPECT_THAT(commands.calls,
-                ElementsAre("busy", "idle", "texts: 12",
-                            "status: Converted 48 timecodes from 25 fps to 24 fps.",
-                            "pop-up: 24 fps, Manual"));
+    EXPECT_THAT(commands.calls, ElementsAre("busy", "idle", "texts: 12",
+                                            "status: Converted 48 timecodes from 25 fps to 24 fps.",
+                                            "pop-up: 24 fps, Manual"));
     EXPECT_EQ(commands.selection, 3U);
 }
 
@@ -72,10 +71,9 @@ TEST_F(FrameRateChange, CurrentRate_NothingConvertedButManual) {
     EXPECT_EQ(commands.status, "Converted 0 timecodes from 25 fps to 25 fps.");
     EXPECT_EQ(event(0).sourceIn, "1:2:3:4");
     EXPECT_EQ(commands.document().fpsSource, "Manual");
-    EXPECT_THAT(commands.calls,
-                ElementsAre("busy", "idle", "texts: 12",
-                            "status: Converted 0 timecodes from 25 fps to 25 fps.",
-                            "pop-up: 25 fps, Manual"));
+    EXPECT_THAT(commands.calls, ElementsAre("busy", "idle", "texts: 12",
+                                            "status: Converted 0 timecodes from 25 fps to 25 fps.",
+                                            "pop-up: 25 fps, Manual"));
 }
 
 TEST_F(FrameRateChange, RatesWithinATenThousandth_AreTheSame) {

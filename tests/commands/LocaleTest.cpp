@@ -5,8 +5,8 @@
 
 #include <gtest/gtest.h>
 
-#include "commands/CSVReport.h"
-#include "commands/EditedEDL.h"
+#include <clipvane/CSVReport.h>
+#include <clipvane/EditedEDL.h>
 #include "commands/RecordingCommands.h"
 #include "commands/SampleEvents.h"
 #include "support/TemporaryFolder.h"

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "commands/DocumentCommands.h"
-#include "timecode/FrameRate.h"
+#include <clipvane/DocumentCommands.h>
+#include <clipvane/FrameRate.h>
 
 namespace clipvane::test {
 

@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "model/TimelineDocument.h"
+#include <clipvane/TimelineDocument.h>
 #include "support/SampleEvent.h"
 
 namespace clipvane::test {

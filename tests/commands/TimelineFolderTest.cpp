@@ -10,10 +10,10 @@
 #include <iostream>
 #include <vector>
 
+#include <clipvane/CSVReport.h>
+#include <clipvane/EditedEDL.h>
+#include <clipvane/TimelineParser.h>
 #include "base/Characters.h"
-#include "commands/CSVReport.h"
-#include "commands/EditedEDL.h"
-#include "import/TimelineParser.h"
 #include "support/TemporaryFolder.h"
 
 namespace clipvane::test {

@@ -8,8 +8,8 @@
 #include <cerrno>
 #include <csignal>
 
-#include "commands/CSVReport.h"
-#include "commands/EditedEDL.h"
+#include <clipvane/CSVReport.h>
+#include <clipvane/EditedEDL.h>
 #include "commands/SampleEvents.h"
 #include "support/RowName.h"
 #include "support/TemporaryFolder.h"

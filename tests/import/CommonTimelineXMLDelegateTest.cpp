@@ -8,8 +8,8 @@
 #include <limits>
 #include <string>
 
+#include <clipvane/TimelineParser.h>
 #include "import/Summary.h"
-#include "import/TimelineParser.h"
 #include "support/Records.h"
 #include "support/RowName.h"
 

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "import/TimelineParser.h"
+#include <clipvane/TimelineParser.h>
 #include "support/LongTest.h"
 
 namespace clipvane::test {

@@ -5,10 +5,10 @@
 
 #include <array>
 
+#include <clipvane/TimelineParser.h>
 #include "import/ClipNameCommentGenerator.h"
 #include "import/EventLineGenerator.h"
 #include "import/Summary.h"
-#include "import/TimelineParser.h"
 #include "judges/EDLJudge.h"
 #include "support/LongTest.h"
 #include "support/Scale.h"

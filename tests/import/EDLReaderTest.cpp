@@ -6,7 +6,7 @@
 #include <set>
 #include <string>
 
-#include "import/TimelineParser.h"
+#include <clipvane/TimelineParser.h>
 #include "support/Records.h"
 #include "support/RowName.h"
 

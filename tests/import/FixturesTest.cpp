@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
+#include <clipvane/TimelineParser.h>
 #include "import/Summary.h"
-#include "import/TimelineParser.h"
 #include "support/RowName.h"
 #include "support/ScopedLocale.h"
 

@@ -7,7 +7,7 @@
 #include <limits>
 #include <string>
 
-#include "import/TimelineParser.h"
+#include <clipvane/TimelineParser.h>
 #include "support/RowName.h"
 
 namespace clipvane::test {

@@ -3,8 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <clipvane/TimelineParser.h>
 #include "import/FrameRateGenerator.h"
-#include "import/TimelineParser.h"
 #include "judges/FrameRateJudge.h"
 #include "support/AppendUTF8.h"
 #include "support/LongTest.h"

@@ -6,7 +6,7 @@
 #include <chrono>
 #include <string>
 
-#include "import/TimelineParser.h"
+#include <clipvane/TimelineParser.h>
 #include "support/LongTest.h"
 #include "support/Scale.h"
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <type_traits>
 
-#include "model/TimelineParseResult.h"
+#include <clipvane/TimelineParseResult.h>
 
 namespace clipvane::test {
 

@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
-#include "import/TimelineParser.h"
+#include <clipvane/TimelineParser.h>
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include "model/FrameRateSource.h"
+#include <clipvane/FrameRateSource.h>
 #include "support/RowName.h"
 #include "support/TemporaryFolder.h"
 #include "support/WithoutPrivileges.h"

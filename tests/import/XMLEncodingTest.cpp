@@ -8,8 +8,8 @@
 
 #include <string>
 
+#include <clipvane/TimelineParser.h>
 #include "base/UTF8.h"
-#include "import/TimelineParser.h"
 #include "judges/Pattern.h"
 #include "support/RowName.h"
 

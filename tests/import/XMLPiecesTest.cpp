@@ -3,8 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <clipvane/TimelineParser.h>
 #include "import/Summary.h"
-#include "import/TimelineParser.h"
 #include "support/LongTest.h"
 
 namespace clipvane::test {

@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "import/TimelineParser.h"
+#include <clipvane/TimelineParser.h>
 #include "support/LongTest.h"
 #include "support/Records.h"
 #include "support/RowName.h"

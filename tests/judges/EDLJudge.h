@@ -8,8 +8,8 @@
 #include <string_view>
 #include <vector>
 
+#include <clipvane/TimelineEvent.h>
 #include "judges/Pattern.h"
-#include "model/TimelineEvent.h"
 
 namespace clipvane::test {
 

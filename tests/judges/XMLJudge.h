@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "model/TimelineEvent.h"
+#include <clipvane/TimelineEvent.h>
 
 namespace clipvane::test {
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
-#include "model/EventList.h"
+#include <clipvane/EventList.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -9,6 +9,7 @@
 #include <functional>
 #include <set>
 
+#include "model/FoundEvent.h"
 #include "model/FullEvent.h"
 #include "support/Records.h"
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "model/TimelineEvent.h"
+#include <clipvane/TimelineEvent.h>
 
 namespace clipvane::test {
 

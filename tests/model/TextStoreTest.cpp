@@ -1,12 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
-#include "model/TextStore.h"
+#include <clipvane/detail/TextStore.h>
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <optional>
 #include <vector>
+
+#include "base/File.h"
 
 namespace clipvane::test {
 namespace {

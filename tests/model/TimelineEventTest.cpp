@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
-#include "model/TimelineEvent.h"
+#include <clipvane/TimelineEvent.h>
 
 #include <gtest/gtest.h>
 
@@ -10,9 +10,9 @@
 #include <string>
 #include <vector>
 
+#include <clipvane/TimelineDocument.h>
+#include <clipvane/TimelineParseResult.h>
 #include "model/FullEvent.h"
-#include "model/TimelineDocument.h"
-#include "model/TimelineParseResult.h"
 #include "support/Records.h"
 #include "support/RowName.h"
 

@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <vector>
 
-#include "model/EventList.h"
+#include <clipvane/EventList.h>
 
 namespace clipvane::test {
 

@@ -5,7 +5,7 @@
 
 #include <string_view>
 
-#include "model/TimelineEvent.h"
+#include <clipvane/TimelineEvent.h>
 
 namespace clipvane::test {
 

@@ -5,8 +5,8 @@
 
 #include <string>
 
-#include "base/UUID.h"
-#include "model/TimelineEvent.h"
+#include <clipvane/TimelineEvent.h>
+#include <clipvane/UUID.h>
 
 namespace clipvane::test {
 

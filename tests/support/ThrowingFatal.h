@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "base/Fatal.h"
+#include <clipvane/Fatal.h>
 
 namespace clipvane::test {
 

@@ -6,9 +6,9 @@
 #include <cstdio>
 #include <string>
 
+#include <clipvane/FrameRate.h>
+#include <clipvane/Timecode.h>
 #include "support/ScopedLocale.h"
-#include "timecode/FrameRate.h"
-#include "timecode/Timecode.h"
 
 namespace clipvane::test {
 namespace {

@@ -1,17 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
-#include "timecode/PackedTimecode.h"
+#include <clipvane/detail/PackedTimecode.h>
 
 #include <gtest/gtest.h>
 
 #include <array>
 #include <string>
 
+#include <clipvane/FrameRate.h>
+#include <clipvane/Timecode.h>
 #include "support/Random.h"
 #include "support/Scale.h"
-#include "timecode/FrameRate.h"
-#include "timecode/Timecode.h"
 
 namespace clipvane::test {
 namespace {

@@ -5,7 +5,7 @@
 
 #include <limits>
 
-#include "timecode/Timecode.h"
+#include <clipvane/Timecode.h>
 
 namespace clipvane::test {
 namespace {

@@ -13,11 +13,11 @@
 #include <string>
 #include <vector>
 
+#include <clipvane/FrameRate.h>
+#include <clipvane/Timecode.h>
 #include "judges/TimecodeJudge.h"
 #include "support/LongTest.h"
 #include "support/ThrowingFatal.h"
-#include "timecode/FrameRate.h"
-#include "timecode/Timecode.h"
 
 namespace clipvane::test {
 namespace {

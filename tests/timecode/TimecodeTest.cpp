@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
-#include "timecode/Timecode.h"
+#include <clipvane/Timecode.h>
 
 #include <gtest/gtest.h>
 

@@ -11,7 +11,7 @@
 
 #include <cstdio>
 
-#include "commands/DocumentCommands.h"
+#include <clipvane/DocumentCommands.h>
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "model/TimelineDocument.h"
+#include <clipvane/TimelineDocument.h>
 #include "support/SampleEvent.h"
 
 namespace clipvane::test {

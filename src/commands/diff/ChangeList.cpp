@@ -7,13 +7,13 @@
 #include <optional>
 #include <utility>
 
+#include <clipvane/FrameRate.h>
+#include <clipvane/Timecode.h>
 #include "base/Characters.h"
 #include "base/Number.h"
 #include "base/UTF8.h"
 #include "commands/diff/Coverage.h"
 #include "import/ClipNameComment.h"
-#include "timecode/FrameRate.h"
-#include "timecode/Timecode.h"
 
 namespace clipvane::diff {
 namespace {

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "base/Error.h"
+#include <clipvane/Error.h>
 #include "commands/diff/Phrases.h"
 
 namespace clipvane::diff {

@@ -1,11 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
-#include "commands/diff/CutDiff.h"
+#include <clipvane/diff/CutDiff.h>
 
 #include <algorithm>
 
 #include "commands/diff/Black.h"
+#include "commands/diff/CutEvent.h"
+#include "commands/diff/CutPair.h"
 #include "commands/diff/Description.h"
 #include "commands/diff/Pairing.h"
 #include "commands/diff/Partners.h"

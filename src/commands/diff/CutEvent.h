@@ -7,17 +7,10 @@
 #include <cstdint>
 #include <vector>
 
+#include <clipvane/diff/CutList.h>
 #include "base/Number.h"
 
 namespace clipvane::diff {
-
-/// What an event is to the comparison, by its four timecodes.
-enum class Kind : std::uint8_t {
-    plain,  ///< source and record equally long, at least one frame: compared frame by frame
-    whole,  ///< source of another length than the record (retimes, freezes): compared as one block
-    point,  ///< record of no length (the first line of a dissolve): one thing without frames
-    odd,  ///< a timecode that is none, or record out before in: one thing without frames and place
-};
 
 /// An event as it is compared. Texts are numbers here: equal numbers mean canonically equivalent
 /// texts, in both lists.

@@ -14,6 +14,7 @@
 #include <utility>
 
 #include "base/Number.h"
+#include "commands/diff/ListedEvent.h"
 #include "commands/diff/TextNumbers.h"
 
 namespace clipvane::diff {

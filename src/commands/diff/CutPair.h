@@ -9,13 +9,10 @@
 #include <string_view>
 #include <vector>
 
+#include <clipvane/diff/CutList.h>
 #include "commands/diff/CutEvent.h"
-#include "commands/diff/CutList.h"
 
 namespace clipvane::diff {
-
-/// What tells one source from another.
-enum class By { reel, name, reelAndName };
 
 /// Two lists made comparable: their events with the same numbers for the same texts.
 struct CutPair {

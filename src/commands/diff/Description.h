@@ -5,7 +5,7 @@
 
 #include <vector>
 
-#include "commands/diff/CutDiff.h"
+#include <clipvane/diff/CutDiff.h>
 #include "commands/diff/CutEvent.h"
 #include "commands/diff/Partners.h"
 #include "commands/diff/TrackChains.h"

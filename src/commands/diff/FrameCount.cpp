@@ -3,9 +3,9 @@
 
 #include "commands/diff/FrameCount.h"
 
-#include "timecode/FrameRate.h"
-#include "timecode/PackedTimecode.h"
-#include "timecode/Timecode.h"
+#include <clipvane/FrameRate.h>
+#include <clipvane/Timecode.h>
+#include <clipvane/detail/PackedTimecode.h>
 
 namespace clipvane::diff {
 

@@ -7,15 +7,11 @@
 #include <optional>
 #include <string_view>
 
+#include <clipvane/diff/CutList.h>
+
 namespace clipvane::diff {
 
-/// How a list's timecodes are counted.
-struct Counting {
-    double fps = 0;
-    bool dropsFrames = false;  ///< drop-frame timecode; `fps` then has the frame base 30 or 60
-};
-
-/// Counts the frames of timecodes, as `frames` (timecode/Timecode.h) reads them. In drop-frame
+/// Counts the frames of timecodes, as `frames` (clipvane/Timecode.h) reads them. In drop-frame
 /// timecode each minute leaves out its first 2 frame numbers at base 30, 4 at base 60, but for
 /// every tenth minute.
 class FrameCounter {

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string>
 
-#include "commands/diff/CutDiff.h"
+#include <clipvane/diff/CutDiff.h>
 
 namespace clipvane::diff {
 

@@ -6,8 +6,8 @@
 #include <cstdint>
 #include <vector>
 
+#include <clipvane/diff/CutDiff.h>
 #include "commands/diff/Black.h"
-#include "commands/diff/CutDiff.h"
 #include "commands/diff/CutEvent.h"
 #include "commands/diff/TrackChains.h"
 

@@ -6,9 +6,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <clipvane/Timecode.h>
+#include <clipvane/TimelineParser.h>
 #include "commands/diff/Cuts.h"
-#include "import/TimelineParser.h"
-#include "timecode/Timecode.h"
 
 namespace clipvane::test {
 namespace {

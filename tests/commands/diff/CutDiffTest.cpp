@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
-#include "commands/diff/CutDiff.h"
+#include <clipvane/diff/CutDiff.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -5,8 +5,8 @@
 
 #include <utility>
 
+#include <clipvane/Timecode.h>
 #include "commands/diff/DiffTable.h"
-#include "timecode/Timecode.h"
 
 namespace clipvane::test {
 namespace {

@@ -8,10 +8,10 @@
 #include <string>
 #include <vector>
 
-#include "commands/diff/CutDiff.h"
+#include <clipvane/TimelineEvent.h>
+#include <clipvane/diff/CutDiff.h>
 #include "commands/diff/Phrases.h"
 #include "judges/CutJudge.h"
-#include "model/TimelineEvent.h"
 
 namespace clipvane::test {
 

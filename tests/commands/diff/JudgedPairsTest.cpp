@@ -9,11 +9,11 @@
 #include <algorithm>
 #include <sstream>
 
+#include <clipvane/Timecode.h>
 #include "commands/diff/ChangeList.h"
 #include "commands/diff/Cuts.h"
 #include "support/Random.h"
 #include "support/Scale.h"
-#include "timecode/Timecode.h"
 
 namespace clipvane::test {
 namespace {

@@ -10,9 +10,9 @@
 #include <span>
 #include <string>
 
+#include <clipvane/CSVReport.h>
+#include <clipvane/EditedEDL.h>
 #include "base/SystemCalls.h"
-#include "commands/CSVReport.h"
-#include "commands/EditedEDL.h"
 #include "commands/EventText.h"
 #include "support/RowName.h"
 #include "support/Scale.h"

@@ -18,9 +18,9 @@
 #include <type_traits>
 #include <vector>
 
+#include <clipvane/TimelineParser.h>
 #include "base/UTF8.h"
 #include "documents/GoodDocument.h"
-#include "import/TimelineParser.h"
 #include "support/Records.h"
 #include "support/SameFields.h"
 #include "support/ThrowingFatal.h"

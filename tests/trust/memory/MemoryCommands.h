@@ -7,8 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include <clipvane/DocumentCommands.h>
 #include "base/LogFile.h"
-#include "commands/DocumentCommands.h"
 #include "memory/FailingMemory.h"
 
 namespace clipvane::test {

@@ -1,1 +1,1 @@
-#include "import/TimelineParser.h"
+#include <clipvane/TimelineParser.h>

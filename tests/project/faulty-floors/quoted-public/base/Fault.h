@@ -1,0 +1,1 @@
+#include "clipvane/Error.h"
