@@ -16,6 +16,10 @@ constexpr double rightPanelShare = 0.3;
 constexpr double rightPanelMinimum = 390;
 constexpr double rightPanelMaximum = 470;
 
+constexpr double panelMargin = 14;
+constexpr double panelTitleHeight = 24;
+constexpr double panelTitleGap = 5;  // between the title and the content
+
 // The detail stack's insets and spacing.
 constexpr double stackTop = 8;
 constexpr double stackBottom = 12;
@@ -37,9 +41,12 @@ MainLayout mainLayout(double width, double height) {
             .rightPanel = {margin + left + gap, panelsY, right, panels}};
 }
 
-Rect panelContent(double width, double height) {
-    return {panelMargin, panelMargin, std::max(width - 2 * panelMargin, 0.0),
-            std::max(height - 2 * panelMargin - panelTitleHeight, 0.0)};
+PanelLayout panelLayout(double width, double height) {
+    const double inner = std::max(width - 2 * panelMargin, 0.0);
+    const double contentHeight = std::max(height - 2 * panelMargin - panelTitleHeight, 0.0);
+    const double titleY = panelMargin + contentHeight + panelTitleGap;
+    return {.title = {panelMargin, titleY, inner, panelTitleHeight},
+            .content = {panelMargin, panelMargin, inner, contentHeight}};
 }
 
 double detailStackWidth(double contentWidth) {

@@ -34,10 +34,13 @@ struct MainLayout {
 };
 MainLayout mainLayout(double width, double height);
 
-/// The content of a panel, below its title. The margins are 14.
-Rect panelContent(double width, double height);
-inline constexpr double panelMargin = 14;
-inline constexpr double panelTitleHeight = 24;
+/// A panel: its title, and its content below that. The margins are 14.
+struct PanelLayout {
+    Rect title;
+    Rect content;
+};
+PanelLayout panelLayout(double width, double height);
+inline constexpr double panelCornerRadius = 8;
 
 /// The stack of the detail panel: the title, the rows, the comments block, from the top. Its height
 /// is fixed; the comments block takes what the others leave.

@@ -11,13 +11,6 @@
 #include "ui/TextLabel.h"
 
 namespace clipvane {
-namespace {
-
-constexpr double cornerRadius = 8;
-constexpr int titleHeight = 24;
-constexpr int titleDistance = 29;  ///< from the title's top to the content's
-
-}  // namespace
 
 PanelView::PanelView(const QString& title, QWidget* parent)
     : QWidget(parent),
@@ -33,13 +26,13 @@ void PanelView::addContent(QWidget* view, const QMargins& margins) {
 }
 
 QRect PanelView::contentRect() const {
-    return flipped(panelContent(width(), height()), height());
+    return flipped(panelLayout(width(), height()).content, height());
 }
 
 void PanelView::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
     const QRect inner = contentRect();
-    titleLabel->setGeometry(inner.left(), inner.top() - titleDistance, inner.width(), titleHeight);
+    titleLabel->setGeometry(flipped(panelLayout(width(), height()).title, height()));
     for (const Content& content : contents) {
         content.view->setGeometry(inner.marginsRemoved(content.margins));
     }
@@ -50,8 +43,8 @@ void PanelView::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(colours::panelEdge);
     painter.setBrush(colours::panel);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius,
-                            cornerRadius);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), panelCornerRadius,
+                            panelCornerRadius);
 }
 
 }  // namespace clipvane

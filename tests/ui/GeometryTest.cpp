@@ -84,6 +84,13 @@ INSTANTIATE_TEST_SUITE_P(Sizes, MainLayoutTest,
                                                    {1001.6, 48, 422.4, 0}}),
                          test::RowName());
 
+TEST(Panel, ContentFillsWhatItsMarginsAndItsTitleLeave) {
+    expectNear(panelLayout(746, 582).title, {14, 549, 718, 24});
+    expectNear(panelLayout(746, 582).content, {14, 14, 718, 530});
+    expectNear(panelLayout(20, 40).title, {14, 19, 0, 24});
+    expectNear(panelLayout(20, 40).content, {14, 14, 0, 0});
+}
+
 TEST(DetailStack, OneLineTitle_CommentsTakeWhatIsLeft) {
     const DetailStackLayout layout = detailStackLayout(374.4, 27, 11);
     expectNear(layout.title, {0, 605, 362.4, 27});
