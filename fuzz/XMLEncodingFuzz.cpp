@@ -36,7 +36,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return unlessFatal([&] { return TimelineParser::parseXML(bytes, 25); });
     };
     const XMLBytes readable = readableXML(document);
-    const std::string_view bytes = readable.of(document);
+    const std::string_view bytes = readable.bytes.view();
     const auto events = eventsOf(document);
     const bool isUTF8 =
         std::string_view(readable.encoding) == "UTF-8" && validUTF8Prefix(bytes) == bytes.size();

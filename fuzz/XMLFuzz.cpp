@@ -21,7 +21,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto events = unlessFatal([&] { return TimelineParser::parseXML(document, fps); });
     const auto expected = unlessFatal([&] {
         const XMLBytes readable = readableXML(document);
-        return test::judgedXML(readable.of(document), readable.encoding, fps);
+        return test::judgedXML(readable.bytes.view(), readable.encoding, fps);
     });
     require(events.has_value() == expected.has_value(), "both stop, or neither");
     if (!events) return 0;

@@ -84,7 +84,9 @@ void CommonTimelineXMLDelegate::startAsset(const XMLAttributes& attributes) {
 
 void CommonTimelineXMLDelegate::startEvent(std::string_view name, const XMLAttributes& attributes) {
     beginEvent(name);
-    if (const auto number = attributes.find("number")) event.eventNumber = cleanedXMLText(*number);
+    if (const auto number = attributes.find("number")) {
+        event.eventNumber = cleanedXMLText(*number).view();
+    }
     event.highlighted = isTrue(attributes.find("highlighted").value_or(""));
 }
 
@@ -108,13 +110,13 @@ void CommonTimelineXMLDelegate::startClip(std::string_view name, const XMLAttrib
     const auto recordEnd = attributes.find("end");
 
     beginEvent(name);
-    event.clipName = cleanedXMLText(displayName());
+    event.clipName = cleanedXMLText(displayName()).view();
     event.sourceIn = timing(start);
     event.recordIn = timing(offset);
-    event.reelID = cleanedXMLText(reel);
+    event.reelID = cleanedXMLText(reel).view();
     event.sourceOut = out ? timing(*out) : end(event.sourceIn, duration);
     event.recordOut = recordEnd ? timing(*recordEnd) : end(event.recordIn, duration);
-    event.track = cleanedXMLText(attributes.firstOf({"lane", "track"}).value_or(name));
+    event.track = cleanedXMLText(attributes.firstOf({"lane", "track"}).value_or(name)).view();
 }
 
 void CommonTimelineXMLDelegate::setRange(const XMLAttributes& attributes, std::string& in,
@@ -125,7 +127,7 @@ void CommonTimelineXMLDelegate::setRange(const XMLAttributes& attributes, std::s
 
 void CommonTimelineXMLDelegate::setField(XMLElement element) {
     effort += currentText.size();
-    const CleanedXMLText cleaned(currentText);
+    const ViewOrCopy cleaned = cleanedXMLText(currentText);
     const std::string_view text = cleaned.view();
     if (text.empty()) return;
     const auto fillTime = [&](std::string& field) {

@@ -11,6 +11,7 @@
 #include <cstdint>
 #include <memory>
 #include <new>
+#include <string>
 
 #include "base/UTF8.h"
 
@@ -108,10 +109,10 @@ void replaceBytes(const void* /*context*/, UConverterToUnicodeArgs* arguments,
 /// `data` in UTF-8; bytes that mean nothing in the converter's encoding become U+FFFD.
 std::string transcode(UConverter& from, std::string_view data) {
     const ConverterPointer to = openConverter(utf8);
-    std::string text;
     UErrorCode callbackError = U_ZERO_ERROR;
     ucnv_setToUCallBack(&from, replaceBytes, nullptr, nullptr, nullptr, &callbackError);
-    if (!to || U_FAILURE(callbackError)) return text;
+    if (!to || U_FAILURE(callbackError)) return std::string(data);
+    std::string text;
     text.reserve(data.size() + data.size() / 8);
     std::array<UChar, 4096> pivot;
     std::array<char, 16384> piece;
@@ -135,11 +136,11 @@ std::string transcode(UConverter& from, std::string_view data) {
 }  // namespace
 
 XMLBytes readableXML(std::string_view data) {
-    if (looksLikeUTF16(data)) return {{}, utf16};
+    if (looksLikeUTF16(data)) return {data, utf16};
     const std::string name = declaredEncoding(data);
-    if (name.empty()) return {{}, utf8};
+    if (name.empty()) return {data, utf8};
     const ConverterPointer converter = openConverter(name.c_str());
-    if (!converter || meansUTF8(*converter, data)) return {{}, utf8};
+    if (!converter || meansUTF8(*converter, data)) return {data, utf8};
     return {transcode(*converter, data), utf8};
 }
 

@@ -3,19 +3,16 @@
 
 #pragma once
 
-#include <string>
 #include <string_view>
+
+#include "base/ViewOrCopy.h"
 
 namespace clipvane {
 
 /// The bytes of an XML document in an encoding that the parser reads itself.
 struct XMLBytes {
-    std::string transcoded;  ///< empty when the file's own bytes serve
-    const char* encoding = nullptr;
-
-    std::string_view of(std::string_view data) const {
-        return transcoded.empty() ? data : std::string_view(transcoded);
-    }
+    ViewOrCopy bytes;
+    const char* encoding;
 };
 
 /// Decides in which encoding to read the document, so that a false or unknown encoding name in its

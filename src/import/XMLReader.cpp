@@ -177,8 +177,8 @@ class ParserRun {
 
 EventList readXML(std::string_view data, double fps, XMLWatcher* watcher) {
     CommonTimelineXMLDelegate delegate(fps);
-    const XMLBytes bytes = readableXML(data);
-    ParserRun(delegate, bytes.encoding, watcher).parse(bytes.of(data));
+    const XMLBytes readable = readableXML(data);
+    ParserRun(delegate, readable.encoding, watcher).parse(readable.bytes.view());
     return delegate.finish();
 }
 

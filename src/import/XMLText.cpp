@@ -3,6 +3,8 @@
 
 #include "import/XMLText.h"
 
+#include <string>
+
 #include "base/Characters.h"
 
 namespace clipvane {
@@ -28,12 +30,10 @@ bool mayNeedReplacing(std::string_view text) {
 
 }  // namespace
 
-CleanedXMLText::CleanedXMLText(std::string_view text) {
-    if (mayNeedReplacing(text)) {
-        storage = replacingAll(replacingAll(text, "file://", ""), "%20", " ");
-        text = storage;
-    }
-    cleaned = trimBlanksAndNewlines(text);
+ViewOrCopy cleanedXMLText(std::string_view text) {
+    if (!mayNeedReplacing(text)) return trimBlanksAndNewlines(text);
+    const std::string replaced = replacingAll(replacingAll(text, "file://", ""), "%20", " ");
+    return std::string(trimBlanksAndNewlines(replaced));
 }
 
 }  // namespace clipvane

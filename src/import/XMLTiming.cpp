@@ -48,7 +48,7 @@ std::optional<std::int64_t> cleanedFrames(std::string_view text, double fps) {
 }  // namespace
 
 std::string CommonTimelineXMLDelegate::timing(std::string_view value) const {
-    const CleanedXMLText cleaned(value);
+    const ViewOrCopy cleaned = cleanedXMLText(value);
     const std::string_view text = cleaned.view();
     if (text.empty() || isNegativeNumber(text)) return {};
     if (holdsColon(text)) return std::string(text);
@@ -57,7 +57,7 @@ std::string CommonTimelineXMLDelegate::timing(std::string_view value) const {
 }
 
 std::optional<std::int64_t> CommonTimelineXMLDelegate::frames(std::string_view from) const {
-    return cleanedFrames(CleanedXMLText(from).view(), fps);
+    return cleanedFrames(cleanedXMLText(from).view(), fps);
 }
 
 std::string CommonTimelineXMLDelegate::timecode(std::int64_t fromFrames) const {
