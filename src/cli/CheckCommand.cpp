@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <string>
 
@@ -45,14 +44,13 @@ class CheckCommand : public Command {
                "  clipvane-cli check -f jsonl archive | jq 'select(.weight == \"suspicious\")'\n";
     }
 
-    void addOptions(CLI::App& app) override {
-        addFPSOption(app, reading);
-        addFromOption(app, reading, "edl|xml|jsonl");
-        app.add_option("-f,--format", format, "text (default) or jsonl")
-            ->type_name("FORMAT")
-            ->check(CLI::IsMember({"text", "jsonl"}));
-        app.add_flag("--strict", strict, "end with status 3 when anything is suspicious");
-        addNames(app, reading, "TIMELINE|FOLDER");
+    void addOptions(Options& options) override {
+        addFPSOption(options, reading);
+        addFromOption(options, reading, "edl|xml|jsonl");
+        options.addChoice("-f,--format", "FORMAT", format, {"text", "jsonl"},
+                          "text (default) or jsonl");
+        options.addFlag("--strict", strict, "end with status 3 when anything is suspicious");
+        addNames(options, reading, "TIMELINE|FOLDER");
     }
 
     Status run(Session& session) override {

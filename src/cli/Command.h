@@ -5,12 +5,9 @@
 
 #include <string>
 
+#include "cli/Options.h"
 #include "cli/Session.h"
 #include "cli/Status.h"
-
-namespace CLI {
-class App;
-}
 
 namespace clipvane::cli {
 
@@ -30,7 +27,7 @@ class Command {
     virtual std::string examples() const = 0;
 
     /// Declares all but -q, -h and --version, which every command has.
-    virtual void addOptions(CLI::App& app) = 0;
+    virtual void addOptions(Options& options) = 0;
 
     /// Called once, after the options are read.
     virtual Status run(Session& session) = 0;

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
-#include <CLI/CLI.hpp>
 #include <string>
 
 #include <clipvane/EditedEDL.h>
@@ -35,14 +34,15 @@ class ConvertCommand : public Command {
                "      clipvane-cli convert --from jsonl -o video.edl -\n";
     }
 
-    void addOptions(CLI::App& app) override {
-        addFPSOption(app, reading);
-        addToOption(app, reading);
-        addFromOption(app, reading, "edl|xml|jsonl");
-        addOutputOption(app, output, "write to FILE; \"-\" is standard output");
-        addFolderOption(app, output, "write into FOLDER, which is made, by the timelines' names");
-        addForceOption(app, output);
-        addNames(app, reading, "TIMELINE");
+    void addOptions(Options& options) override {
+        addFPSOption(options, reading);
+        addToOption(options, reading);
+        addFromOption(options, reading, "edl|xml|jsonl");
+        addOutputOption(options, output, "write to FILE; \"-\" is standard output");
+        addFolderOption(options, output,
+                        "write into FOLDER, which is made, by the timelines' names");
+        addForceOption(options, output);
+        addNames(options, reading, "TIMELINE");
     }
 
     Status run(Session& session) override {

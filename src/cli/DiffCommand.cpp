@@ -3,7 +3,6 @@
 
 #include <unistd.h>
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <string>
 #include <utility>
@@ -48,24 +47,20 @@ class DiffCommand : public Command {
                "'select(.sums).sums.longer'\n";
     }
 
-    void addOptions(CLI::App& app) override {
-        addFPSOption(app, reading);
-        addToOption(app, reading);
-        addFromOption(app, reading, "edl|xml|jsonl");
-        app.add_option("--by", by, "what tells sources apart: reel, name or reel+name")
-            ->type_name("WHAT")
-            ->check(CLI::IsMember({"reel", "name", "reel+name"}));
-        app.add_option("--track", tracks, "report this track only; can be repeated")
-            ->type_name("TRACK")
-            ->allow_extra_args(false);
-        app.add_option("-f,--format", format, "table (default), csv, jsonl or edl")
-            ->type_name("FORMAT")
-            ->check(CLI::IsMember({"table", "csv", "jsonl", "edl"}));
-        app.add_flag("--verbose", verbose, "list each event of those that are shifted alike");
-        app.add_flag("--strict", strict, "status 3 if anything is not the same");
-        addOutputOption(app, output, "write to FILE; \"-\" is standard output");
-        addForceOption(app, output);
-        addNames(app, reading, "OLD NEW");
+    void addOptions(Options& options) override {
+        addFPSOption(options, reading);
+        addToOption(options, reading);
+        addFromOption(options, reading, "edl|xml|jsonl");
+        options.addChoice("--by", "WHAT", by, {"reel", "name", "reel+name"},
+                          "what tells sources apart: reel, name or reel+name");
+        options.addValues("--track", "TRACK", tracks, "report this track only; can be repeated");
+        options.addChoice("-f,--format", "FORMAT", format, {"table", "csv", "jsonl", "edl"},
+                          "table (default), csv, jsonl or edl");
+        options.addFlag("--verbose", verbose, "list each event of those that are shifted alike");
+        options.addFlag("--strict", strict, "status 3 if anything is not the same");
+        addOutputOption(options, output, "write to FILE; \"-\" is standard output");
+        addForceOption(options, output);
+        addNames(options, reading, "OLD NEW");
     }
 
     Status run(Session& session) override {

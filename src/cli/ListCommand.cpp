@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
-#include <CLI/CLI.hpp>
 #include <string>
 #include <utility>
 
@@ -27,16 +26,15 @@ class ListCommand : public Command {
                "  clipvane-cli list -f jsonl cut.fcpxml | jq -r .clipName\n";
     }
 
-    void addOptions(CLI::App& app) override {
-        addFPSOption(app, reading);
-        addToOption(app, reading);
-        addFromOption(app, reading, "edl|xml|jsonl");
-        app.add_option("-f,--format", format, "table (default), csv, tsv or jsonl")
-            ->type_name("FORMAT")
-            ->check(CLI::IsMember({"table", "csv", "tsv", "jsonl"}));
-        addOutputOption(app, output, "write to FILE; \"-\" is standard output");
-        addForceOption(app, output);
-        addNames(app, reading, "TIMELINE");
+    void addOptions(Options& options) override {
+        addFPSOption(options, reading);
+        addToOption(options, reading);
+        addFromOption(options, reading, "edl|xml|jsonl");
+        options.addChoice("-f,--format", "FORMAT", format, {"table", "csv", "tsv", "jsonl"},
+                          "table (default), csv, tsv or jsonl");
+        addOutputOption(options, output, "write to FILE; \"-\" is standard output");
+        addForceOption(options, output);
+        addNames(options, reading, "TIMELINE");
     }
 
     Status run(Session& session) override {

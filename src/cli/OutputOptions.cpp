@@ -3,7 +3,6 @@
 
 #include "cli/OutputOptions.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 
 #include "cli/Output.h"
@@ -13,34 +12,33 @@ namespace clipvane::cli {
 
 namespace {
 
-void addName(CLI::App& app, const std::string& option, const std::string& type, std::string& name,
-             const std::string& description) {
-    // The library's own conversion would read signs into some names.
-    const auto take = [option, &name](const CLI::results_t& given) {
-        name = given.front();
-        if (name.empty()) throw CLI::ValidationError(option, "the name is empty");
-        return true;
+void addName(Options& options, const std::string& option, const std::string& type,
+             std::string& name, const std::string& description) {
+    const auto take = [&name](const std::string& given) -> std::optional<std::string> {
+        name = given;
+        if (name.empty()) return "the name is empty";
+        return std::nullopt;
     };
-    app.add_option(option, take, description)->type_name(type)->expected(1);
+    options.addValue(option, type, take, description);
 }
 
 }  // namespace
 
-void addOutputOption(CLI::App& app, OutputOptions& options, const std::string& description) {
-    addName(app, "-o,--output", "FILE", options.file, description);
+void addOutputOption(Options& options, OutputOptions& output, const std::string& description) {
+    addName(options, "-o,--output", "FILE", output.file, description);
 }
 
-void addFolderOption(CLI::App& app, OutputOptions& options, const std::string& description) {
-    addName(app, "-d,--directory", "FOLDER", options.folder, description);
+void addFolderOption(Options& options, OutputOptions& output, const std::string& description) {
+    addName(options, "-d,--directory", "FOLDER", output.folder, description);
 }
 
-void addInPlaceOption(CLI::App& app, OutputOptions& options) {
-    options.offersInPlace = true;
-    app.add_flag("--in-place", options.inPlace, "replace the files themselves");
+void addInPlaceOption(Options& options, OutputOptions& output) {
+    output.offersInPlace = true;
+    options.addFlag("--in-place", output.inPlace, "replace the files themselves");
 }
 
-void addForceOption(CLI::App& app, OutputOptions& options) {
-    app.add_flag("--force", options.force, "replace files that are there already");
+void addForceOption(Options& options, OutputOptions& output) {
+    options.addFlag("--force", output.force, "replace files that are there already");
 }
 
 Error isInputError() {

@@ -10,10 +10,7 @@
 #include <clipvane/Error.h>
 #include "base/AtomicFile.h"
 #include "cli/Input.h"
-
-namespace CLI {
-class App;
-}
+#include "cli/Options.h"
 
 namespace clipvane::cli {
 
@@ -30,10 +27,10 @@ struct OutputOptions {
     }
 };
 
-void addOutputOption(CLI::App& app, OutputOptions& options, const std::string& description);
-void addFolderOption(CLI::App& app, OutputOptions& options, const std::string& description);
-void addInPlaceOption(CLI::App& app, OutputOptions& options);
-void addForceOption(CLI::App& app, OutputOptions& options);
+void addOutputOption(Options& options, OutputOptions& output, const std::string& description);
+void addFolderOption(Options& options, OutputOptions& output, const std::string& description);
+void addInPlaceOption(Options& options, OutputOptions& output);
+void addForceOption(Options& options, OutputOptions& output);
 
 /// Why an output that is an input is refused.
 Error isInputError();

@@ -119,7 +119,8 @@ Status run(int argc, const char* const* argv, Session& session) {
         CLI::App* const sub = app.add_subcommand(command->name(), command->summary());
         sub->group("Commands");
         addHelpAndQuiet(*sub, quiet);
-        command->addOptions(*sub);
+        Options options(*sub);
+        command->addOptions(options);
         explain(*sub, *command);
         sub->final_callback([&chosen, &command] { chosen = command.get(); });
     }

@@ -3,7 +3,6 @@
 
 #include "cli/ReadingOptions.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 
 #include "cli/Rate.h"
@@ -11,54 +10,41 @@
 namespace clipvane::cli {
 namespace {
 
-void addRateOption(CLI::App& app, const std::string& option, std::optional<double>& rate,
+void addRateOption(Options& options, const std::string& name, std::optional<double>& rate,
                    const std::string& description) {
-    const auto take = [option, &rate](const std::string& text) {
+    const auto take = [&rate](const std::string& text) -> std::optional<std::string> {
         rate = parseRate(text);
-        if (!rate) {
-            throw CLI::ValidationError(option, "\"" + text +
-                                                   "\" is no rate: say 25, 23.976 or 24000/1001; "
-                                                   "above 0 and at most 1000");
-        }
+        if (rate) return std::nullopt;
+        return "\"" + text +
+               "\" is no rate: say 25, 23.976 or 24000/1001; above 0 and at most 1000";
     };
-    app.add_option_function<std::string>(option, take, description)->type_name("R");
+    options.addValue(name, "R", take, description);
 }
 
 }  // namespace
 
-void addFPSOption(CLI::App& app, ReadingOptions& options) {
-    addRateOption(app, "--fps", options.fps, "read at R frames a second, whatever the file names");
+void addFPSOption(Options& options, ReadingOptions& reading) {
+    addRateOption(options, "--fps", reading.fps,
+                  "read at R frames a second, whatever the file names");
 }
 
-void addToOption(CLI::App& app, ReadingOptions& options) {
-    addRateOption(app, "--to", options.to, "then convert every timecode to R frames a second");
+void addToOption(Options& options, ReadingOptions& reading) {
+    addRateOption(options, "--to", reading.to, "then convert every timecode to R frames a second");
 }
 
-void addFromOption(CLI::App& app, ReadingOptions& options, const std::string& values) {
-    const auto take = [&options, values](const std::string& text) {
-        options.from = formatCalled(text);
+void addFromOption(Options& options, ReadingOptions& reading, const std::string& values) {
+    const auto take = [&reading, values](const std::string& text) -> std::optional<std::string> {
+        reading.from = formatCalled(text);
         const bool isOffered = ("|" + values + "|").find("|" + text + "|") != std::string::npos;
-        if (!options.from || !isOffered) {
-            throw CLI::ValidationError("--from", "\"" + text + "\" is none of " + values);
-        }
+        if (reading.from && isOffered) return std::nullopt;
+        return "\"" + text + "\" is none of " + values;
     };
-    app.add_option_function<std::string>("--from", take,
-                                         "format of \"-\", and of names that do not tell")
-        ->type_name(values);
+    options.addValue("--from", values, take, "format of \"-\", and of names that do not tell");
 }
 
-void addNames(CLI::App& app, ReadingOptions& options, const std::string& title) {
-    // A callback of the library's own kind gets the names as they are; converting them to a vector
-    // would read signs into some.
-    const auto take = [&options](const CLI::results_t& names) {
-        options.names = names;
-        return true;
-    };
-    app.add_option(title, take, "files; \"-\" is standard input, and \"--\" ends the options")
-        ->type_name("")
-        ->allow_extra_args()
-        ->expected(1, CLI::detail::expected_max_vector_size)
-        ->required();
+void addNames(Options& options, ReadingOptions& reading, const std::string& title) {
+    options.addNames(title, reading.names,
+                     "files; \"-\" is standard input, and \"--\" ends the options");
 }
 
 std::optional<TimelineFormat> formatOf(const Input& input, const ReadingOptions& options) {

@@ -8,11 +8,8 @@
 #include <vector>
 
 #include "cli/Input.h"
+#include "cli/Options.h"
 #include "cli/TimelineFormat.h"
-
-namespace CLI {
-class App;
-}
 
 namespace clipvane::cli {
 
@@ -24,12 +21,12 @@ struct ReadingOptions {
     std::vector<std::string> names;      ///< as the user wrote them
 };
 
-void addFPSOption(CLI::App& app, ReadingOptions& options);
-void addToOption(CLI::App& app, ReadingOptions& options);
+void addFPSOption(Options& options, ReadingOptions& reading);
+void addToOption(Options& options, ReadingOptions& reading);
 /// `values` is what --help shows, "edl|xml|jsonl".
-void addFromOption(CLI::App& app, ReadingOptions& options, const std::string& values);
+void addFromOption(Options& options, ReadingOptions& reading, const std::string& values);
 /// The timelines themselves; `title` is what --help calls one.
-void addNames(CLI::App& app, ReadingOptions& options, const std::string& title);
+void addNames(Options& options, ReadingOptions& reading, const std::string& title);
 
 /// The format to read `input` as: by its name, else by --from.
 std::optional<TimelineFormat> formatOf(const Input& input, const ReadingOptions& options);

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
-#include <CLI/CLI.hpp>
 #include <string>
 
 #include "cli/Commands.h"
@@ -32,16 +31,16 @@ class StampCommand : public Command {
                "  clipvane-cli stamp --fps 30 --restamp -d at30 wrong.edl\n";
     }
 
-    void addOptions(CLI::App& app) override {
-        addFPSOption(app, reading);
-        app.get_option("--fps")->required();
-        addFromOption(app, reading, "edl");
-        addOutputOption(app, output, "write to FILE; \"-\" is standard output");
-        addFolderOption(app, output, "write into FOLDER, which is made, by the EDLs' names");
-        addInPlaceOption(app, output);
-        addForceOption(app, output);
-        app.add_flag("--restamp", restamp, "also where another rate is named");
-        addNames(app, reading, "EDL");
+    void addOptions(Options& options) override {
+        addFPSOption(options, reading);
+        options.require("--fps");
+        addFromOption(options, reading, "edl");
+        addOutputOption(options, output, "write to FILE; \"-\" is standard output");
+        addFolderOption(options, output, "write into FOLDER, which is made, by the EDLs' names");
+        addInPlaceOption(options, output);
+        addForceOption(options, output);
+        options.addFlag("--restamp", restamp, "also where another rate is named");
+        addNames(options, reading, "EDL");
     }
 
     Status run(Session& session) override {
