@@ -96,7 +96,8 @@ class LineWalk {
         }
         if (const std::string reason = whyUnread(content); !reason.empty()) {
             tell("unread-event", Weight::suspicious, number,
-                 "no event is read, because of " + reason + ": " + std::string(content));
+                 "no event is read, because of " + reason + ": " +
+                     std::string(trimBlanksAndNewlines(content)));
             return;
         }
         if (frameCodeModeOfLine(content) == FrameCodeMode::drop) dropFrame.add(number);

@@ -94,7 +94,7 @@ class Lines(Checked):
                 ("001 AX V C " + good.replace(" 01", ",01"), "its timecodes are not separated"),
                 ("001 AX V C 0 125 90000 90125", "frame counts instead of timecodes")]:
             with self.subTest(line=line):
-                [(kind, number, text)] = self.suspicious("a.edl", NAMED + line + "\n")
+                [(kind, number, text)] = self.suspicious("a.edl", NAMED + f"  {line} \t\n")
                 self.assertEqual((kind, number), ("unread-event", 3))
                 self.assertIn(f"no event is read, because of {reason}", text)
                 self.assertTrue(text.endswith(": " + line), text)

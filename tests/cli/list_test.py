@@ -249,6 +249,9 @@ class Inputs(ProgramTest):
         self.assertEqual((done.status, done.said), (OK, ""))
         self.assertEqual([json.loads(line)["file"] for line in done.text.splitlines()],
                          ["a.edl", "./-x.edl", "./--fps", "./[y]", "./++", "./--", "-"])
+        done = self.run_program("list", "-f", "jsonl", "--from", "edl", "[y]", "++", "a.edl")
+        self.assertEqual([json.loads(line)["file"] for line in done.text.splitlines()],
+                         ["./[y]", "./++", "a.edl"])
 
     def test_what_cannot_be_read(self):
         self.put("cut.edl", NAMED)
