@@ -51,11 +51,10 @@ class DiffCommand : public Command {
         addFPSOption(options, reading);
         addToOption(options, reading);
         addFromOption(options, reading, "edl|xml|jsonl");
-        options.addChoice("--by", "WHAT", by, {"reel", "name", "reel+name"},
-                          "what tells sources apart: reel, name or reel+name");
+        options.addChoice("--by", by, {"reel", "name", "reel+name"}, "what tells sources apart");
         options.addValues("--track", "TRACK", tracks, "report this track only; can be repeated");
-        options.addChoice("-f,--format", "FORMAT", format, {"table", "csv", "jsonl", "edl"},
-                          "table (default), csv, jsonl or edl");
+        options.addChoice("-f,--format", format, {"table", "csv", "jsonl", "edl"},
+                          "a table if it is not said");
         options.addFlag("--verbose", verbose, "list each event of those that are shifted alike");
         options.addFlag("--strict", strict, "status 3 if anything is not the same");
         addOutputOption(options, output, "write to FILE; \"-\" is standard output");

@@ -30,8 +30,8 @@ class ListCommand : public Command {
         addFPSOption(options, reading);
         addToOption(options, reading);
         addFromOption(options, reading, "edl|xml|jsonl");
-        options.addChoice("-f,--format", "FORMAT", format, {"table", "csv", "tsv", "jsonl"},
-                          "table (default), csv, tsv or jsonl");
+        options.addChoice("-f,--format", format, {"table", "csv", "tsv", "jsonl"},
+                          "a table if it is not said");
         addOutputOption(options, output, "write to FILE; \"-\" is standard output");
         addForceOption(options, output);
         addNames(options, reading, "TIMELINE");

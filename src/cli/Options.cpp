@@ -4,6 +4,7 @@
 #include "cli/Options.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 
 namespace clipvane::cli {
 
@@ -23,9 +24,15 @@ void Options::addValue(const std::string& name, const std::string& type, const T
     app.add_option(name, check, description)->type_name(type)->expected(1);
 }
 
-void Options::addChoice(const std::string& name, const std::string& type, std::string& chosen,
+void Options::addChoice(const std::string& name, std::string& chosen,
                         const std::vector<std::string>& choices, const std::string& description) {
-    app.add_option(name, chosen, description)->type_name(type)->check(CLI::IsMember(choices));
+    const std::string type = CLI::detail::join(choices, "|");
+    const auto take = [type, choices, &chosen](const std::string& value) {
+        chosen = value;
+        const bool isOffered = std::ranges::find(choices, value) != choices.end();
+        return isOffered ? std::nullopt : std::optional("\"" + value + "\" is none of " + type);
+    };
+    addValue(name, type, take, description);
 }
 
 void Options::addValues(const std::string& name, const std::string& type,
@@ -36,6 +43,9 @@ void Options::addValues(const std::string& name, const std::string& type,
 void Options::addNames(const std::string& title, std::vector<std::string>& names,
                        const std::string& description) {
     const auto take = [&names](const CLI::results_t& given) {
+        if (std::ranges::find(given, "") != given.end()) {
+            throw CLI::ValidationError("a name is empty");
+        }
         names = given;
         return true;
     };

@@ -29,12 +29,13 @@ class Options {
     void addFlag(const std::string& name, bool& flag, const std::string& description);
     void addValue(const std::string& name, const std::string& type, const Take& take,
                   const std::string& description);
-    void addChoice(const std::string& name, const std::string& type, std::string& chosen,
+    /// --help shows the choices as "csv|tsv".
+    void addChoice(const std::string& name, std::string& chosen,
                    const std::vector<std::string>& choices, const std::string& description);
     /// An option that can be given several times.
     void addValues(const std::string& name, const std::string& type,
                    std::vector<std::string>& values, const std::string& description);
-    /// What stands without an option, once or several times; it must be there.
+    /// What stands without an option, once or several times; it must be there and is not empty.
     void addNames(const std::string& title, std::vector<std::string>& names,
                   const std::string& description);
     /// Makes an option one that must be given.

@@ -44,6 +44,9 @@ class Options(ProgramTest):
                 (["--bold", "check", "a.edl"], "there is no option --bold; see clipvane-cli check --help"),
                 (["list", "--fps", "[25]", "a.edl"], '--fps: "[25]" is no rate: say 25, 23.976 or 24000/1001; '
                  "above 0 and at most 1000; see clipvane-cli list --help"),
+                (["list", "-f=csv", "a.edl"], '-f,--format: "=csv" is none of table|csv|tsv|jsonl; '
+                 "see clipvane-cli list --help"),
+                (["list", "a.edl", ""], "a name is empty; see clipvane-cli list --help"),
                 (["convert", "a.edl"], "say where the output goes: -o or -d"),
                 (["stamp", "--fps", "25", "a.edl"], "say where the output goes: -o, -d or --in-place"),
                 (["convert", "-o", "x", "-d", "y", "a.edl"], "-o and -d exclude each other"),
