@@ -37,7 +37,7 @@ std::optional<std::size_t> rowWithin(std::size_t count, std::size_t row) {
     return std::min(row, count - 1);
 }
 
-/// For what matters less than that the document is whole, as it is by then.
+/// For what comes after the change: the document is whole, and a lack of memory must not say more.
 template <class Action>
 void ifMemoryAllows(Action action) try {
     action();
@@ -51,8 +51,8 @@ DocumentCommands::DocumentCommands()
 
 DocumentCommands::~DocumentCommands() = default;
 
-// Each command keeps the alert that lack of memory would end it with: from when its change is made,
-// another one.
+// Each command knows from the start which alert a lack of memory would end it with. Once its change
+// is made, that is another one.
 
 void DocumentCommands::tellLackOfMemory(const Alert& alert) {
     try {

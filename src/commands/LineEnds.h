@@ -11,7 +11,7 @@ namespace clipvane {
 /// What ends the lines of a text.
 enum class LineEnd { lineFeed, carriageReturn, carriageReturnLineFeed };
 
-/// The kind that all line ends of `text` are; `lineFeed` when it has none or mixes them.
+/// The kind of all line ends in `text`; `lineFeed` when it has none or mixes them.
 LineEnd lineEndOf(std::string_view text);
 
 /// `text` with line ends of `kind` for its line feeds. What is of that kind already stays.

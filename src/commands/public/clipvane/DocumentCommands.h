@@ -109,7 +109,8 @@ class DocumentCommands {
     virtual void writeLog(const std::string& message) = 0;
 
     /// Runs `work`, which reads, converts or writes a whole timeline, under a wait cursor. Another
-    /// command may come before it, while the cursor is shown: what `work` needs it asks for itself.
+    /// command may run first, while the cursor is shown, so that `work` looks up what it needs
+    /// itself.
     virtual void whileBusy(const std::function<void()>& work) = 0;
 };
 
