@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <limits>
 #include <string>
 #include <utility>
 #include <vector>
@@ -30,6 +31,9 @@
 namespace clipvane::cli {
 namespace {
 
+/// Wider than any cell: the column never becomes narrower.
+constexpr std::size_t wholeWidth = std::numeric_limits<std::size_t>::max();
+
 diff::By byCalled(const std::string& name) {
     if (name == "reel") return diff::By::reel;
     return name == "name" ? diff::By::name : diff::By::reelAndName;
@@ -55,7 +59,7 @@ class DiffCommand : public Command {
         options.addValues("--track", "TRACK", tracks, "report this track only; can be repeated");
         options.addChoice("-f,--format", format, {"table", "csv", "jsonl", "edl"},
                           "a table if it is not said");
-        options.addFlag("--verbose", verbose, "list each event of those that are shifted alike");
+        options.addFlag("--verbose", verbose, "list each event, what is not compared too");
         options.addFlag("--strict", strict, "status 3 if anything is not the same");
         addOutputOption(options, output, "write to FILE; \"-\" is standard output");
         addForceOption(options, output);
@@ -81,10 +85,16 @@ class DiffCommand : public Command {
         const auto timelines = readForDiff(inputs[0], inputs[1], reading, session);
         if (!timelines) return Status::failed;
         bool isSame = false;
-        const auto text =
-            possibly([&]() -> Result<std::string> { return textOf(*timelines, session, isSame); });
+        const auto text = possibly([&]() -> Result<std::string> {
+            try {
+                return textOf(*timelines, session, isSame);
+            } catch (const ImpossibleNumber& impossible) {
+                return tl::unexpected(because("they cannot be compared: " + impossible.reason));
+            }
+        });
         if (!text) {
-            session.fail(text.error().description);
+            session.fail(inputs[0].title() + " and " + inputs[1].title() + ": " +
+                         text.error().description);
             return Status::failed;
         }
         const auto written = writeOutput(output.file, output.existing(), *text);
@@ -126,12 +136,18 @@ class DiffCommand : public Command {
         return diff::changeList(compared, track, decimalOf(compared.newList.counting.fps));
     }
 
+    /// What changed, by how much and where is shown whole, whatever the terminal's width; what it
+    /// is of becomes narrower.
     std::string table(const diff::Compared& compared) const {
-        std::vector<Table::Column> columns;
-        for (const auto title : diff::tableColumns) columns.push_back({std::string(title), 4});
-        Table rows(columns);
+        constexpr std::size_t narrowed = 6;  // "Source", "Reel" and "Name", behind the rest
         const auto detail = verbose ? diff::Detail::everyEvent : diff::Detail::usual;
         const auto changes = diff::tableRows(compared, detail);
+        std::vector<Table::Column> columns;
+        for (const auto title : diff::tableColumns) {
+            const bool mayNarrow = columns.size() >= narrowed;
+            columns.push_back({std::string(title), mayNarrow ? 4 : wholeWidth});
+        }
+        Table rows(columns);
         for (const auto& row : changes) rows.addRow({row.begin(), row.end()});
         const bool isOnTerminal = output.file.empty() || output.file == "-";
         const auto width = isOnTerminal ? terminalColumns(STDOUT_FILENO) : std::nullopt;

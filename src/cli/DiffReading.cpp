@@ -58,6 +58,14 @@ Result<Side> readSide(const Input& input, const ReadingOptions& options) {
     return side;
 }
 
+/// A list without events is at any rate.
+void takeRateIfEmpty(Side& side, const Side& other) {
+    if (!side.document().events.empty()) return;
+    side.document().fps = other.document().fps;
+    side.timeline.namedRate = other.timeline.namedRate;
+    side.mode = other.mode;
+}
+
 std::string rateOf(const Side& side) {
     return formatFPS(side.document().fps) + " fps";
 }
@@ -128,6 +136,8 @@ std::unique_ptr<DiffInputs> readForDiff(const Input& oldInput, const Input& newI
     auto newSide = readSide(newInput, options);
     if (!newSide) session.fail(newInput.title(), newSide.error());
     if (!oldSide || !newSide) return nullptr;
+    takeRateIfEmpty(*oldSide, *newSide);
+    takeRateIfEmpty(*newSide, *oldSide);
     if (const auto reason = refusal(*oldSide, *newSide, options)) {
         session.fail(*reason);
         return nullptr;

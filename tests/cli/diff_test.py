@@ -4,10 +4,15 @@
 """What `clipvane-cli diff` prints and says, and what docs/diff.md shows of it."""
 
 import csv
+import fcntl
 import io
 import json
+import os
+import pty
 import re
+import struct
 import subprocess
+import termios
 
 from program import (EVENT, FAILED, NAMED, OK, PROGRAM, SUSPICIOUS, TREE, WRONG_USE, ProgramTest,
                      Row, fixtures, main)
@@ -92,7 +97,7 @@ class Formats(ProgramTest):
     def test_formats(self):
         self.try_rows([
             Row("table", ["diff", "--fps", "25", "old.edl", "new.edl"], files=PAIR,
-                holds=["V           2    new             ", "  X     Clip 002\n", "\n\n" + SUMS]),
+                holds=["V               2        new             ", "  X     Clip 002\n", "\n\n" + SUMS]),
             Row("nothing", ["diff", "--fps", "25", "old.edl", "old.edl"], files=PAIR,
                 output="Events: 2 same. Frames: 100 kept, 0 new, 0 again, 0 gone, 0 fewer. "
                        "The cut is as long as it was.\n"),
@@ -136,9 +141,42 @@ class Formats(ProgramTest):
         self.put("old.edl", old)
         self.put("new.edl", new)
         both = ["--fps", "25", "old.edl", "new.edl"]
-        self.assertIn("V      1-2  1-2  2 events shifted 25 later",
+        self.assertIn("V      1-2      1-2      2 events shifted 25 later",
                       self.run_program("diff", *both).text)
         self.assertEqual(self.run_program("diff", "--verbose", *both).text.count("shifted 25"), 2)
+
+
+    def test_what_is_not_compared_is_listed_where_all_is(self):
+        point = "002  B  V  C  00:00:07:00 00:00:07:00 00:00:02:00 00:00:02:00\n"
+        odd = "003  C  V  C  00:00:07:00 00:00:09:00 00:00:02:00 00:00:01:00\n"
+        self.put("old.edl", A + odd)
+        self.put("new.edl", A + point)
+        both = ["--fps", "25", "old.edl", "new.edl"]
+        self.assertEqual(self.run_program("diff", *both).text.count("not compared"), 1)
+        lines = self.run_program("diff", "--verbose", *both).text.splitlines()
+        told = [line.split()[:4] for line in lines if " not compared  " in line]
+        self.assertEqual(told, [["V", "2", "not", "compared"]] * 2)
+        rows = list(csv.DictReader(io.StringIO(self.run_program("diff", "-f", "csv", *both).text)))
+        self.assertEqual([(row["change"], row["oldRow"], row["newRow"]) for row in rows],
+                         [("not compared", "2", ""), ("not compared", "", "2")])
+        first = json.loads(self.run_program("diff", "-f", "jsonl", *both).text.splitlines()[0])
+        self.assertEqual((first["change"], first["oldReel"]), (["not compared"], "C"))
+
+    def test_a_narrow_terminal_shows_what_changed_and_where_whole(self):
+        trimmed = B.replace("00:00:00:00 00:00:02:00", "00:00:00:10 00:00:02:00") \
+            .replace("00:00:04:00", "00:00:03:15").replace("  B  ", "  A_LONG_REEL_OF_THE_CAMERA  ")
+        self.put("old.edl", A + B.replace("  B  ", "  A_LONG_REEL_OF_THE_CAMERA  "))
+        self.put("new.edl", A + trimmed)
+        main_end, terminal = pty.openpty()
+        fcntl.ioctl(terminal, termios.TIOCSWINSZ, struct.pack("HHHH", 24, 80, 0, 0))
+        subprocess.run([PROGRAM, "diff", "-q", "--fps", "25", "old.edl", "new.edl"],
+                       cwd=self.folder, stdout=terminal, check=True)
+        os.close(terminal)
+        text = os.read(main_end, 65536).decode()
+        os.close(main_end)
+        self.assertIn("trimmed: head 10 shorter; shifted 10 earlier", text)
+        self.assertIn("00:00:02:00 - 00:00:04:00  00:00:02:00 - 00:00:03:15", text)
+        self.assertNotIn("A_LONG_REEL_OF_THE_CAMERA", text)
 
 
 class Uses(ProgramTest):
@@ -174,7 +212,7 @@ class Uses(ProgramTest):
             Row("a count beyond 64 bits", ["diff", "--fps", "25", "a.xml", "a.xml"], FAILED,
                 files={"a.xml": '<a><clip name="a" start="9223372036854775000" '
                                 'offset="-9000000000000000s" duration="7"/></a>'}, output="",
-                said=["impossible number"])])
+                said=["a.xml and a.xml: they cannot be compared: a frame count exceeds 64 bits"])])
 
     def test_rates(self):
         files = {**PAIR, "named.edl": "* FPS: 25\n" + OLD, "at30.edl": "* FPS: 30\n" + NEW}
@@ -190,6 +228,12 @@ class Uses(ProgramTest):
                 files=files, holds=["new"]),
             Row("a guess is not converted", ["diff", "--to", "25", "old.edl", "new.edl"], FAILED,
                 files=files, output="", said=["old.edl names no rate"]),
+            Row("an empty list is at any rate", ["diff", "named.edl", "none.edl"],
+                files={**files, "none.edl": "TITLE: none\n"}, holds=["2 gone"],
+                said=["none.edl has no event"]),
+            Row("an empty first list, too", ["diff", "none.edl", "at30.edl"],
+                files={**files, "none.edl": "TITLE: none\n"},
+                holds=["3 new", "Frames: 0 kept, 132 new"], said=["none.edl has no event"]),
             Row("told another", ["diff", "--fps", "24", "named.edl", "old.edl"], files=files,
                 said=["named.edl names 25 fps: read at 24 fps"])])
 
@@ -263,6 +307,15 @@ class Uses(ProgramTest):
                                     "old.edl", "new.edl")
             self.assertEqual((done.status, done.said), (OK, ""))
         self.assertIn(f"OLDCUT {composed} C        00:00:02:00 00:00:04:00", done.text)
+
+    def test_a_track_is_chosen_though_the_other_list_is_empty(self):
+        self.put("old.edl", A + B.replace(" V ", " A "))
+        self.put("none.edl", "TITLE: none\n")
+        for lists, word in ((("old.edl", "none.edl"), "gone"), (("none.edl", "old.edl"), "new")):
+            done = self.run_program("diff", "-q", "--fps", "25", "--track", "A", *lists)
+            self.assertEqual(done.status, OK)
+            self.assertIn(f"Events: 1 {word}. ", done.text)
+            self.assertRegex(done.text, r"\nA  .*" + word)
 
     def test_no_track_is_chosen_where_none_is_compared(self):
         self.put("old.edl", A)

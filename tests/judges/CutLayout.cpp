@@ -24,8 +24,11 @@ class Layouter {
         for (const auto& e : oldList) {
             if (!isBlack(e)) tracks.insert(e.track);
         }
-        comparesTracks = std::ranges::any_of(
-            newList, [&](const auto& e) { return !isBlack(e) && tracks.contains(e.track); });
+        const bool isNewEmpty = std::ranges::all_of(newList, isBlack);
+        comparesTracks =
+            tracks.empty() != isNewEmpty || std::ranges::any_of(newList, [&](const auto& e) {
+                return !isBlack(e) && tracks.contains(e.track);
+            });
         layOut(oldList, olds);
         layOut(newList, news);
     }

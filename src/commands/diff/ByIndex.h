@@ -11,9 +11,9 @@
 
 namespace clipvane::diff {
 
-/// `all` by the index that `indexOf` gives each, which is below `count`, and by `less` where that
-/// is equal. Takes one pass over what is in order, as most of it is, and three to count the rest
-/// into its place: a sort by comparisons would take most of a comparison's time.
+/// Sorts `all` by `indexOf`, which is below `count`, and by `less` where that is equal. Most lists
+/// here are in order already, or nearly so, and long: one look tells, and the others are sorted by
+/// counting.
 template <class T, class IndexOf, class Less>
 std::vector<T> sortedByIndex(std::vector<T> all, std::size_t count, IndexOf indexOf, Less less) {
     if (!std::ranges::is_sorted(all, {}, indexOf)) {

@@ -34,10 +34,10 @@ class Numbers {
     std::map<Key, std::uint32_t> numbers;
 };
 
-/// Numbers that were given to numbers, which lie close together.
+/// Numbers for small numbers: a table where a map would be slow.
 class Table {
   public:
-    /// What `make` gave it.
+    /// The number of `key`, which `make` gives when it is first asked for.
     template <class Make>
     std::uint32_t of(std::uint32_t key, Make make) {
         if (key >= numbers.size()) numbers.resize(key + std::size_t{1}, none);
@@ -130,8 +130,9 @@ class PairMaker {
         numberTracks(newList, newListed.events);
         const std::size_t inNew = pair.tracks.size();
         numberTracks(oldList, oldListed.events);
-        pair.comparesTracks = std::ranges::any_of(
-            oldListed.events, [&](const ListedEvent& event) { return trackOf(event) < inNew; });
+        const bool isOneEmpty = oldListed.events.empty() != newListed.events.empty();
+        const auto isInNew = [&](const ListedEvent& event) { return trackOf(event) < inNew; };
+        pair.comparesTracks = isOneEmpty || std::ranges::any_of(oldListed.events, isInNew);
         if (!pair.comparesTracks) pair.tracks = {""};
     }
 

@@ -12,12 +12,12 @@
 
 namespace clipvane::diff {
 
-/// What is to be said of each event of NEW, but for what it stands in place of.
+/// Describes each event of NEW. What it stands in place of comes later (ReportOrder.h).
 std::vector<NewEvent> describeNew(const Cut& oldCut, const Cut& newCut,
                                   const std::vector<Run>& runs, const Partners& partners,
                                   const std::vector<TrackChain>& chains);
 
-/// What is to be said of each event of OLD.
+/// Describes each event of OLD.
 std::vector<OldEvent> describeOld(const Cut& oldCut, const Cut& newCut,
                                   const std::vector<Run>& runs, const Partners& partners);
 

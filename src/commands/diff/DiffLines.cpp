@@ -23,11 +23,11 @@ struct Change {
     const Compared& compared;
     const ReportLine& line;
     const NewEvent* newEvent = nullptr;
-    const OldEvent* oldEvent = nullptr;  ///< lost, or the partner
+    const OldEvent* oldEvent = nullptr;  ///< without a partner, or the partner
 
     bool isBlack() const { return line.kind == ReportLine::Kind::black; }
-    bool isLost() const { return line.kind == ReportLine::Kind::lost; }
-    Words words() const { return isLost() ? oldEvent->words : newEvent->words; }
+    bool isOfOld() const { return line.kind == ReportLine::Kind::ofOld; }
+    Words words() const { return isOfOld() ? oldEvent->words : newEvent->words; }
 
     /// A count of an event of NEW, where it bears the word.
     Count where(Word word, std::int64_t NewEvent::*count) const {
@@ -126,7 +126,7 @@ template <class Take>
 void forEachChange(const Compared& compared, Take take) {
     for (const ReportLine& line : compared.diff.report) {
         Change change{compared, line};
-        if (line.kind == ReportLine::Kind::lost) {
+        if (line.kind == ReportLine::Kind::ofOld) {
             change.oldEvent = &compared.diff.oldEvents[line.event];
         } else if (line.kind == ReportLine::Kind::event) {
             change.newEvent = &compared.diff.newEvents[line.event];

@@ -34,6 +34,26 @@ bool areAlike(const NewEvent& a, const NewEvent& b) {
     return a.shift == b.shift && (both(Word::shifted) || both(Word::moved));
 }
 
+bool isNotCompared(const ReportLine& line, const CutDiff& diff) {
+    switch (line.kind) {
+        case ReportLine::Kind::event:
+            return diff.newEvents[line.event].words.has(Word::notCompared);
+        case ReportLine::Kind::ofOld:
+            return diff.oldEvents[line.event].words.has(Word::notCompared);
+        case ReportLine::Kind::black:
+            break;
+    }
+    return false;
+}
+
+std::vector<ReportLine> shownLines(const CutDiff& diff, Detail detail) {
+    std::vector<ReportLine> lines = diff.report;
+    if (detail == Detail::usual) {
+        std::erase_if(lines, [&](const ReportLine& line) { return isNotCompared(line, diff); });
+    }
+    return lines;
+}
+
 class Rows {
   public:
     explicit Rows(const Compared& compared) : compared(compared) {}
@@ -68,7 +88,7 @@ class Rows {
         row[oldRecord] = range(oldIn, oldList[oldLast.row].recordOut);
     }
 
-    void addLost(const OldEvent& event) {
+    void addOld(const OldEvent& event) {
         TableRow& row = add(event.track);
         setOld(row, event);
         row[change] = phraseOf(event);
@@ -103,7 +123,7 @@ class Rows {
 
 std::vector<TableRow> tableRows(const Compared& compared, Detail detail) {
     using Line = ReportLine::Kind;
-    const auto& report = compared.diff.report;
+    const auto report = shownLines(compared.diff, detail);
     const auto& newEvents = compared.diff.newEvents;
     Rows rows(compared);
     for (std::size_t i = 0; i < report.size();) {
@@ -111,8 +131,8 @@ std::vector<TableRow> tableRows(const Compared& compared, Detail detail) {
         std::size_t end = i + 1;
         if (line.kind == Line::black) {
             rows.addBlack(line);
-        } else if (line.kind == Line::lost) {
-            rows.addLost(compared.diff.oldEvents[line.event]);
+        } else if (line.kind == Line::ofOld) {
+            rows.addOld(compared.diff.oldEvents[line.event]);
         } else {
             const auto continues = [&] {
                 return report[end].kind == Line::event && report[end].track == line.track &&

@@ -14,12 +14,15 @@ namespace clipvane::diff {
 
 /// The columns of the report that is made for reading. Rows count from 1.
 inline constexpr std::array<std::string_view, 9> tableColumns{
-    "Track", "Old", "New", "Change", "Record in OLD", "Record in NEW", "Source", "Reel", "Name"};
+    "Track",         "Old row", "New row", "Change", "Record in OLD",
+    "Record in NEW", "Source",  "Reel",    "Name"};
 
 using TableRow = std::array<std::string, tableColumns.size()>;
 
 enum class Detail {
-    usual,      ///< neighbours that are shifted, or moved, by the same amount are one row
+    /// Neighbours that are shifted, or moved, by the same amount are one row; what is not compared
+    /// has none.
+    usual,
     everyEvent  ///< each has a row
 };
 

@@ -19,11 +19,12 @@ struct Stretch {
     std::int64_t to = 0;
 };
 
-// What runs, by event of NEW and position, pair of either list: by event, then position.
+// The stretches of either list that `runs` pair, by event, then position. The runs come by event of
+// NEW, then position.
 std::vector<Stretch> pairedOfOld(const std::vector<Run>& runs, std::size_t oldCount);
 std::vector<Stretch> pairedOfNew(const std::vector<Run>& runs);
 
-/// What of a cut is not paired yet: longest stretches, by event, then position.
+/// The parts of a cut that are not paired yet: longest stretches, by event, then position.
 class FreeStretches {
   public:
     explicit FreeStretches(const Cut& cut);

@@ -15,7 +15,7 @@ bool isBlack(const EventView& event) {
     return event.rawText() == "gap";
 }
 
-/// The numbers of a column in which most texts are equal to the one above.
+/// The numbers of a column in which a text is mostly that of the row above.
 class LatestNumber {
   public:
     explicit LatestNumber(TextNumbers& numbers) : numbers(numbers) {}

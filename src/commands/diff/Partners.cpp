@@ -148,14 +148,6 @@ Partners::Partners(std::size_t oldCount, std::size_t newCount, std::vector<Partn
       newStarts(startsOf(byNew, newCount, [](const Partnership& p) { return p.newEvent; })),
       oldStarts(startsOf(byOld, oldCount, [](const Partnership& p) { return p.oldEvent; })) {}
 
-std::span<const Partnership> Partners::ofNew(std::uint32_t event) const {
-    return std::span(byNew).subspan(newStarts[event], newStarts[event + 1] - newStarts[event]);
-}
-
-std::span<const Partnership> Partners::ofOld(std::uint32_t event) const {
-    return std::span(byOld).subspan(oldStarts[event], oldStarts[event + 1] - oldStarts[event]);
-}
-
 Partners findPartners(const Cut& oldCut, const Cut& newCut, const std::vector<Run>& runs) {
     return Finder(oldCut, newCut, runs).find();
 }

@@ -28,12 +28,22 @@ class Partners {
                       std::vector<Partnership> inNewOrder, std::vector<Partnership> inOldOrder);
 
     /// The partners of an event of NEW, by their source; the first is *the* partner.
-    std::span<const Partnership> ofNew(std::uint32_t event) const;
+    std::span<const Partnership> ofNew(std::uint32_t event) const {
+        return of(byNew, newStarts, event);
+    }
 
     /// The partners of an event of OLD, by their source.
-    std::span<const Partnership> ofOld(std::uint32_t event) const;
+    std::span<const Partnership> ofOld(std::uint32_t event) const {
+        return of(byOld, oldStarts, event);
+    }
 
   private:
+    static std::span<const Partnership> of(const std::vector<Partnership>& all,
+                                           const std::vector<std::uint32_t>& starts,
+                                           std::uint32_t event) {
+        return {all.data() + starts[event], starts[event + 1] - starts[event]};
+    }
+
     std::vector<Partnership> byNew;
     std::vector<Partnership> byOld;
     std::vector<std::uint32_t>

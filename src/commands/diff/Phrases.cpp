@@ -104,6 +104,7 @@ std::string renamePhrase(const NewEvent& event, const Compared& compared) {
 
 std::string phraseOf(const NewEvent& event, const Compared& compared) {
     const auto has = [&](Word word) { return event.words.has(word); };
+    if (has(Word::notCompared)) return "not compared";
     std::vector<std::string> parts;
     if (has(Word::added)) parts.emplace_back("new");
     if (has(Word::again)) parts.emplace_back("again");
@@ -129,7 +130,9 @@ std::string phraseOf(const NewEvent& event, const Compared& compared) {
 }
 
 std::string phraseOf(const OldEvent& event) {
-    return event.words.has(Word::gone) ? "gone" : "fewer";
+    std::string text;
+    event.words.forEach([&](Word word) { text = wordTexts[static_cast<std::size_t>(word)]; });
+    return text;
 }
 
 std::string blackPhrase(std::int64_t longer) {

@@ -20,7 +20,7 @@ struct Compared {
 /// All that is said of an event of NEW: "trimmed: head 10 shorter; shifted 10 earlier".
 std::string phraseOf(const NewEvent& event, const Compared& compared);
 
-/// "gone", "fewer".
+/// "gone", "fewer", "not compared".
 std::string phraseOf(const OldEvent& event);
 
 /// "black 10 longer".

@@ -19,24 +19,25 @@ struct InSlot {
     Index event;
 };
 
-bool isLost(const OldEvent& event) {
-    return event.words.has(Word::gone) || event.words.has(Word::fewer);
-}
+constexpr Words lost{Word::gone, Word::fewer};
+constexpr Words withoutPartner{Word::gone, Word::fewer, Word::notCompared};
 
-/// The lost events of each track, in order.
-std::vector<std::vector<InSlot>> lostByTrack(const Cut& oldCut,
-                                             const std::vector<TrackChain>& chains,
-                                             const std::vector<OldEvent>& oldEvents) {
-    std::vector<std::vector<InSlot>> lost(chains.size());
+/// The events of OLD that bear one of the words, by track, in order.
+std::vector<std::vector<InSlot>> inOldWith(Words words, const Cut& oldCut,
+                                           const std::vector<TrackChain>& chains,
+                                           const std::vector<OldEvent>& oldEvents) {
+    std::vector<std::vector<InSlot>> found(chains.size());
     for (Index o = 0; o < oldEvents.size(); ++o) {
-        if (!isLost(oldEvents[o])) continue;
+        if (!oldEvents[o].words.hasAny(words)) continue;
         const std::vector<Link>& chain = chains[oldEvents[o].track].chain;
         const auto behind = std::ranges::lower_bound(
             chain, std::tuple(oldCut[o].recordIn, o), {},
             [](const Link& link) { return std::tuple(link.oldFrom, link.partner); });
-        lost[oldEvents[o].track].push_back({static_cast<Slot>(behind - chain.begin()), o});
+        found[oldEvents[o].track].push_back({static_cast<Slot>(behind - chain.begin()), o});
     }
-    return lost;
+    // An odd event has no place, and is told before all others.
+    for (auto& track : found) std::ranges::stable_sort(track, {}, &InSlot::slot);
+    return found;
 }
 
 /// The slot behind each event of NEW that is on its track's chain.
@@ -56,17 +57,17 @@ class SlotsBehind {
     std::vector<Index> slots;  // 0 for those that are not
 };
 
-/// Those of the slot, of events in the order of slots.
+/// The events in one slot. `events` come in the order of slots.
 auto inSlot(const std::vector<InSlot>& events, Slot slot) {
     return std::ranges::equal_range(events, slot, {}, &InSlot::slot);
 }
 
-/// The report of each track, as it grows.
+/// Collects the lines of each track.
 class Lines {
   public:
-    Lines(const std::vector<std::vector<InSlot>>& lost, std::size_t tracks)
-        : lost(lost), lines(tracks), orders(tracks) {
-        for (Index track = 0; track < tracks; ++track) addLost(track, 0);
+    Lines(const std::vector<std::vector<InSlot>>& left, std::size_t tracks)
+        : left(left), lines(tracks), orders(tracks) {
+        for (Index track = 0; track < tracks; ++track) addLeft(track, 0);
     }
 
     void beginEvent(Index track) { ++orders[track]; }
@@ -75,9 +76,9 @@ class Lines {
         lines[track].push_back({kind, track, event, orders[track], longer});
     }
 
-    void addLost(Index track, Slot slot) {
-        for (const InSlot& one : inSlot(lost[track], slot)) {
-            add(ReportLine::Kind::lost, track, one.event);
+    void addLeft(Index track, Slot slot) {
+        for (const InSlot& one : inSlot(left[track], slot)) {
+            add(ReportLine::Kind::ofOld, track, one.event);
         }
     }
 
@@ -88,7 +89,7 @@ class Lines {
     }
 
   private:
-    const std::vector<std::vector<InSlot>>& lost;
+    const std::vector<std::vector<InSlot>>& left;
     std::vector<std::vector<ReportLine>> lines;
     std::vector<Index> orders;  // of each track's latest event
 };
@@ -108,10 +109,10 @@ void findReplacements(const Cut& oldCut, const std::vector<TrackChain>& chains,
             others[event.track].push_back({passed[event.track], n});
         }
     }
-    const auto lost = lostByTrack(oldCut, chains, oldEvents);
+    const auto lostEvents = inOldWith(lost, oldCut, chains, oldEvents);
     for (std::size_t track = 0; track < chains.size(); ++track) {
         for (const InSlot& other : others[track]) {
-            const auto lostHere = inSlot(lost[track], other.slot);
+            const auto lostHere = inSlot(lostEvents[track], other.slot);
             const bool isAlone = inSlot(others[track], other.slot).size() == 1;
             NewEvent& event = newEvents[other.event];
             if (!isAlone || lostHere.size() != 1 || !event.words.has(Word::added)) continue;
@@ -126,12 +127,12 @@ std::vector<ReportLine> makeReport(const Cut& oldCut, const std::vector<TrackCha
                                    const std::vector<OldEvent>& oldEvents) {
     using Kind = ReportLine::Kind;
     const SlotsBehind slots(chains, newEvents.size());
-    const auto lost = lostByTrack(oldCut, chains, oldEvents);
+    const auto left = inOldWith(withoutPartner, oldCut, chains, oldEvents);
     auto changes = black;
     for (auto& track : changes) std::ranges::stable_sort(track, {}, &BlackChange::before);
     std::vector<std::size_t> nextChange(chains.size());
 
-    Lines lines(lost, chains.size());
+    Lines lines(left, chains.size());
     for (Index n = 0; n < newEvents.size(); ++n) {
         const NewEvent& event = newEvents[n];
         const Index track = event.track;
@@ -140,9 +141,8 @@ std::vector<ReportLine> makeReport(const Cut& oldCut, const std::vector<TrackCha
              next < changes[track].size() && changes[track][next].before == n; ++next) {
             lines.add(Kind::black, track, n, changes[track][next].longer);
         }
-        const bool hasLine = !event.words.has(Word::same) && !event.words.has(Word::notCompared);
-        if (hasLine) lines.add(Kind::event, track, n);
-        if (slots.has(n)) lines.addLost(track, slots.of(n));
+        if (!event.words.has(Word::same)) lines.add(Kind::event, track, n);
+        if (slots.has(n)) lines.addLeft(track, slots.of(n));
     }
     return std::move(lines).result();
 }

@@ -19,7 +19,7 @@ void findReplacements(const Cut& oldCut, const std::vector<TrackChain>& chains,
                       const std::vector<OldEvent>& oldEvents, std::vector<NewEvent>& newEvents);
 
 /// The lines of the report: track by track, in record order. An event of OLD stands behind the one
-/// of the chain that it followed; what is the same, and what is not compared, has no line.
+/// of the chain that it followed; what is the same has no line.
 std::vector<ReportLine> makeReport(const Cut& oldCut, const std::vector<TrackChain>& chains,
                                    const std::vector<std::vector<BlackChange>>& black,
                                    const std::vector<NewEvent>& newEvents,

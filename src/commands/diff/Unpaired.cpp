@@ -10,8 +10,8 @@
 namespace clipvane::diff {
 namespace {
 
-/// What `other` uses of the stretches of contents in `free`. They are few in most lists, so that
-/// only what touches them is put in order.
+/// What `other` uses of the free stretches. These are few in most lists, so that only the uses that
+/// touch one are kept and sorted.
 Coverage usesOf(const Cut& other, const Cut& cut, const std::vector<Stretch>& free) {
     std::vector<AxisStretch> asked;
     asked.reserve(free.size());

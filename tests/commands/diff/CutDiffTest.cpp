@@ -123,6 +123,11 @@ INSTANTIATE_TEST_SUITE_P(
              {cut("A", 0, 50, 0, "V", "x")},
              {cut("A", 0, 50, 0, "V", "y")},
              {"A of 0 renamed (0 0 0)"}},
+        Case{"PartlyFromElsewhere",
+             {cut("A", 100, 180, 50), cut("A", 160, 210, 200, "V", "x"), cut("B", 0, 50, 250)},
+             {cut("A", 100, 160, 140), cut("A", 160, 210, 200), cut("B", 0, 50, 250)},
+             {"A of 0 trimmed 0 -20 0 shifted 90 (0 0 0)", "black -70", "A of 1 partly (0 0 20)"},
+             -90},
         Case{"NothingToCompareWith", {}, {cut("A", 0, 50, 0)}, {"A new (50 0 0)"}, 50}),
     RowName());
 

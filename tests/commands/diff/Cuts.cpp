@@ -157,7 +157,7 @@ std::vector<std::string> reportOf(const diff::CutDiff& diff, const diff::Events&
     for (const auto& line : diff.report) {
         if (line.kind == diff::ReportLine::Kind::black) {
             lines.push_back("black " + text(line.longer));
-        } else if (line.kind == diff::ReportLine::Kind::lost) {
+        } else if (line.kind == diff::ReportLine::Kind::ofOld) {
             const auto& event = diff.oldEvents[line.event];
             lines.push_back(std::string(oldEvents[event.row].reelID) + ' ' + describe(event));
         } else {

@@ -74,12 +74,12 @@ struct PairedStretch {
 struct ReportLine {
     enum class Kind {
         event,  ///< an event of NEW
-        lost,   ///< an event of OLD, where it would stand
+        ofOld,  ///< an event of OLD without a partner, where it would stand
         black,  ///< no event: the black before the next event of the chain is `longer`
     };
     Kind kind = Kind::event;
     std::uint32_t track = 0;
-    std::uint32_t event = 0;  ///< index into the events of NEW, or of OLD for a lost one
+    std::uint32_t event = 0;  ///< index into the events of NEW, or of OLD
     std::uint32_t order = 0;  ///< among the events of NEW on the track, those that are the same too
     std::int64_t longer = 0;  ///< frames of black; negative for shorter
 };
@@ -107,7 +107,7 @@ struct Sums {
 /// What changed from OLD to NEW. Black takes no part.
 struct CutDiff {
     By by = By::reel;
-    bool comparesTracks = true;       ///< false: no track text in common, all is one track
+    bool comparesTracks = true;       ///< false: no track text in common, all is one
     std::vector<std::string> tracks;  ///< by NEW, then OLD
     std::vector<NewEvent> newEvents;  ///< in record order: by record in, then row
     std::vector<OldEvent> oldEvents;  ///< likewise

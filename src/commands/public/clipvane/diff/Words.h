@@ -49,6 +49,7 @@ class Words {
 
     constexpr void add(Word word) { bits |= bit(word); }
     constexpr bool has(Word word) const { return (bits & bit(word)) != 0; }
+    constexpr bool hasAny(Words others) const { return (bits & others.bits) != 0; }
     constexpr bool empty() const { return bits == 0; }
 
     /// Calls `take` with each of them, in the order of `Word`.
