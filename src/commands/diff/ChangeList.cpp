@@ -40,7 +40,7 @@ Coverage recordCoverage(const std::vector<Event>& events, std::uint32_t track) {
     return Coverage(std::move(stretches));
 }
 
-/// What of the track is in OLD, event by event, in record order.
+/// What of the track is in OLD, event by event; in record order, as events do not overlap.
 std::vector<ChangeStretch> pairedOn(const CutDiff& diff, std::uint32_t track) {
     std::vector<ChangeStretch> stretches;
     for (const PairedStretch& paired : diff.paired) {
@@ -48,7 +48,6 @@ std::vector<ChangeStretch> pairedOn(const CutDiff& diff, std::uint32_t track) {
         if (diff.oldEvents[paired.oldEvent].track != track) continue;
         stretches.push_back({paired.newFrom, paired.newTo, paired.oldFrom});
     }
-    std::ranges::sort(stretches, {}, &ChangeStretch::from);
     return stretches;
 }
 

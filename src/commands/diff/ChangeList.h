@@ -23,7 +23,7 @@ struct ChangeStretch {
 };
 
 /// The stretches of a track (an index into CutDiff::tracks), in order: across events, and across
-/// black that both lists have at that shift.
+/// black that both lists have at that shift. The track's events must not overlap in NEW.
 std::vector<ChangeStretch> changeStretches(const CutDiff& diff, std::uint32_t track);
 
 /// The stretches as an EDL that conforms OLD's finished track to NEW: source is the place in OLD,

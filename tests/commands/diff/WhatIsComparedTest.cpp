@@ -59,6 +59,43 @@ INSTANTIATE_TEST_SUITE_P(Kinds, BlackEvents,
                                          BlackCase{"ReelInAnXML", "XML", "BL", "clip", true}),
                          RowName());
 
+struct SourceCase {
+    std::string_view name;
+    std::string reel;
+    bool isAlone = false;  ///< no other reel in the list
+    std::string firstName;
+    std::string secondName;
+    bool areOne = false;  ///< a second name is no second source
+};
+
+class Sources : public testing::TestWithParam<SourceCase> {};
+
+TEST_P(Sources, OfReelsThatSayNothing_AreToldApartByName) {
+    const auto& [name, reel, isAlone, firstName, secondName, areOne] = GetParam();
+    std::vector<Row> olds{cut(reel, 0, 50, 0, "V", firstName)};
+    std::vector<Row> news{cut(reel, 0, 50, 0, "V", secondName)};
+    for (auto* rows : {&olds, &news}) {
+        rows->push_back(cut(reel, 100, 150, 50, "V", "third"));
+        if (!isAlone) rows->push_back(cut("other", 0, 50, 100));
+    }
+    const auto diff = compare(olds, news);
+    EXPECT_EQ(diff.sums.added, areOne ? 0 : 50);
+    EXPECT_EQ(diff.sums.of(Word::renamed), areOne ? 1 : 0);
+}
+
+TEST(OneSource, TheOnlyReelOfOneName) {
+    const auto diff =
+        compare({cut("A", 0, 50, 0, "V", "first")}, {cut("A", 0, 50, 0, "V", "second")});
+    EXPECT_EQ(diff.newEvents[0].words, Words{Word::renamed});
+}
+
+INSTANTIATE_TEST_SUITE_P(Reels, Sources,
+                         testing::Values(SourceCase{"Usual", "A", false, "first", "second", true},
+                                         SourceCase{"AX", "AX", false, "first", "second"},
+                                         SourceCase{"Empty", "", false, "first", "second"},
+                                         SourceCase{"TheOnlyOne", "A", true, "first", "second"}),
+                         RowName());
+
 constexpr auto composed = "Pr\u00EAt";
 constexpr auto decomposed = "Pre\u0302t";
 
