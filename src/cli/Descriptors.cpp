@@ -33,7 +33,7 @@ bool isOpen(int descriptor) {
     return ::fcntl(descriptor, F_GETFD) != -1 || errno != EBADF;
 }
 
-/// Whatever the parent has made of it.
+/// As SIGPIPE does, also where the parent ignores it.
 void endByBrokenPipe() {
     sigset_t pipe;
     sigemptyset(&pipe);

@@ -18,8 +18,8 @@ namespace clipvane::cli {
 /// or /dev/stderr. Nothing for any other name.
 std::optional<int> namedDescriptor(const std::filesystem::path& path);
 
-/// Reads what remains to be read, to the end, waiting where the stream does not wait by itself.
-/// Fails with the system's error.
+/// Reads to the end, and waits for more where the stream itself would not. Fails with the system's
+/// error.
 Result<std::string> readAll(int descriptor);
 
 /// Writes all of `bytes`, waiting likewise. Zero or an errno value. A pipe that nobody reads any

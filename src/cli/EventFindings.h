@@ -8,8 +8,8 @@
 
 namespace clipvane::cli {
 
-/// What the events' own timecodes tell: fields that no rate has, or that the document's rate has
-/// not, and which rates would have them; out-points before their in-points. Fatal for frame counts
+/// What the events' own timecodes tell: fields that no rate has, or that the document's rate does
+/// not have, and which rates would; out-points before their in-points. Fatal for frame counts
 /// beyond 64 bits.
 Findings eventFindings(const TimelineDocument& document);
 

@@ -33,7 +33,7 @@ class Formatter : public CLI::Formatter {
     std::string make_usage(const CLI::App* /*app*/, std::string /*name*/) const override {
         return "\nUsage: " + usage + "\n";
     }
-    /// Of what stands without an option the usage has told how many there are.
+    /// The usage says how many names there are.
     std::string make_option_opts(const CLI::Option* option) const override {
         return option->get_positional() ? "" : CLI::Formatter::make_option_opts(option);
     }

@@ -24,7 +24,7 @@ class Messages {
     /// on, `index` counted from zero.
     void progress(std::size_t index, std::size_t count, std::string_view name);
 
-    /// Takes away what `progress` shows. Data for the same terminal must not come behind it.
+    /// Takes away what `progress` shows, before data go to the same terminal.
     void clearProgress();
 
   private:

@@ -12,8 +12,7 @@ void Options::addFlag(const std::string& name, bool& flag, const std::string& de
     app.add_flag(name, flag, description);
 }
 
-// Callbacks of the library's own kind get a value as it is: its conversions would read signs into
-// some.
+// The callbacks get a value as it is; the library's own conversions would change some.
 
 void Options::addValue(const std::string& name, const std::string& type, const Take& take,
                        const std::string& description) {

@@ -16,7 +16,7 @@ namespace clipvane::cli {
 /// What an input's output in a folder is called.
 using OutputNaming = std::string (*)(const Input& input);
 
-/// What is wrong about the places that the options give, before any of them is looked at: none or
+/// What is wrong with the outputs as the options name them, before any file is looked at: none or
 /// several of -o, -d and --in-place, or one that does not go with these inputs.
 std::optional<std::string> misuseOf(const OutputOptions& options, const std::vector<Input>& inputs);
 

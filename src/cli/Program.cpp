@@ -32,13 +32,13 @@ bool takesValue(const CLI::App& app, const std::string& name) {
     });
 }
 
-/// The library reads signs of its own into some names.
+/// Whether the library would not take it for a name, but for a sign of its own or a list.
 bool isSign(const std::string& name) {
     return name == "++" || (name.starts_with('[') && name.ends_with(']'));
 }
 
-/// As the library wants them, the last first, and without "--": it takes what follows only while
-/// it has no name yet.
+/// In the order that the library wants, the last first. "--" is left out: the library takes what
+/// follows it only while it has no name yet.
 std::vector<std::string> arguments(const CLI::App& app, int argc, const char* const* argv) {
     std::vector<std::string> all;
     bool isBehindOptions = false;

@@ -54,8 +54,8 @@ std::string_view faultOf(const Event& event) {
     }
     if (const auto fault = nameFault(event.clipName); !fault.empty()) return fault;
     if (clipNameComment(event.comments)) return "comments hold the words FROM CLIP NAME";
-    // What follows is taken for a part of the event before it.
-    return "the events behind them are not read, and their names are taken for these events'";
+    // The comments of a lost event belong to the one before it.
+    return "some get the name of the lost event behind them";
 }
 
 template <class Event, class OtherEvent>

@@ -14,8 +14,8 @@ namespace clipvane::cli {
 /// What a reader makes of an EDL that was written from a list of events.
 struct ReadAgain {
     std::size_t events = 0;  ///< of the list
-    std::size_t kept = 0;  ///< of these, read as they are but for the number, the comment and so on
-    std::string reasons;   ///< why others are lost, the most frequent first; empty when none is
+    std::size_t kept = 0;    ///< of these, read again with reel, track, name and timecodes
+    std::string reasons;     ///< why others are lost, the most frequent first; empty when none is
 };
 
 /// Reads `edl`, which was written from `document`. An event is kept when reel, track, name and the

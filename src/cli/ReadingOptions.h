@@ -31,7 +31,7 @@ void addNames(Options& options, ReadingOptions& reading, const std::string& titl
 /// The format to read `input` as: by its name, else by --from.
 std::optional<TimelineFormat> formatOf(const Input& input, const ReadingOptions& options);
 
-/// What is wrong about the inputs before any of them is looked at: a stream that is named twice or
+/// What is wrong with the inputs before any of them is looked at: a stream that is named twice or
 /// whose format nobody tells, or a --from that says something about none. Nothing when all is well.
 std::optional<std::string> misuseOf(const std::vector<Input>& inputs,
                                     const ReadingOptions& options);

@@ -87,7 +87,7 @@ std::string shown(std::string_view text) {
     result.reserve(text.size());
     while (!text.empty()) {
         const CodePoint next = firstCodePoint(text);
-        // What is ill-formed is read as U+FFFD over another number of bytes than it is written in.
+        // An ill-formed sequence reads as U+FFFD, too, but its bytes are others.
         const bool isReplaced = isHidden(next.value) || next.value == 0xFFFD;
         result += isReplaced ? replacement : text.substr(0, next.length);
         text.remove_prefix(next.length);

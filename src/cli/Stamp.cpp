@@ -134,7 +134,7 @@ std::optional<bool> comesFirst(const Events& before, const Events& after) {
 }  // namespace
 
 Result<StampedEDL> stamped(std::string_view bytes, double fps, bool restamp) {
-    if (isUTF16(bytes)) return tl::unexpected(because("is UTF-16, and no EDL that is read"));
+    if (isUTF16(bytes)) return tl::unexpected(because("is UTF-16, and an EDL is read as UTF-8"));
     const std::string text = replaceInvalidUTF8(bytes);
     const auto named = detectFPS(text);
     if (named == fps) return StampedEDL{std::string(bytes), false};
@@ -154,7 +154,7 @@ Result<StampedEDL> stamped(std::string_view bytes, double fps, bool restamp) {
         if (!addsOne || (*addsOne && !mayAddOne)) continue;
         return StampedEDL{std::move(candidate), *addsOne};
     }
-    return tl::unexpected(because("cannot be stamped without changing what is read of it"));
+    return tl::unexpected(because("cannot be stamped without changing what is read from it"));
 }
 
 }  // namespace clipvane::cli

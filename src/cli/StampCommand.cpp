@@ -20,11 +20,11 @@ std::string ownName(const Input& input) {
     return input.fileName().native();
 }
 
-/// Writes into EDLs at which rate they were written.
+/// Writes into EDLs the rate that they were written at.
 class StampCommand : public Command {
   public:
     std::string name() const override { return "stamp"; }
-    std::string summary() const override { return "write into EDLs at which rate they count"; }
+    std::string summary() const override { return "write into EDLs the rate that they count at"; }
     std::string examples() const override {
         return "  clipvane-cli stamp --fps 25 -o stamped.edl cut.edl\n"
                "  clipvane-cli stamp --fps 23.976 --in-place *.edl\n"
@@ -39,7 +39,7 @@ class StampCommand : public Command {
         addFolderOption(options, output, "write into FOLDER, which is made, by the EDLs' names");
         addInPlaceOption(options, output);
         addForceOption(options, output);
-        options.addFlag("--restamp", restamp, "also where another rate is named");
+        options.addFlag("--restamp", restamp, "also an EDL that names another rate");
         addNames(options, reading, "EDL");
     }
 

@@ -67,7 +67,7 @@ Result<ReadTimeline> read(std::string_view bytes, TimelineFormat format, std::op
     return readJSONLines(bytes, fps);
 }
 
-/// Whether nobody told the rate that the timecodes count at. A stream without a line has none.
+/// Whether the rate is a guess. In a stream without lines there is nothing to guess about.
 bool isGuess(const TimelineDocument& document, TimelineFormat format) {
     const bool isEmptyStream = format == TimelineFormat::jsonLines && document.events.empty();
     return document.fpsSource == fpsSourceDefault && !isEmptyStream;
@@ -79,7 +79,7 @@ Result<ReadTimeline> readTimeline(const FileBytes& bytes, TimelineFormat format,
                                   std::optional<double> fps, XMLWatcher* watcher) {
     return possibly([&]() -> Result<ReadTimeline> {
         auto timeline = read(bytes.view(), format, fps, watcher);
-        // Whatever is done with the timeline needs a base to count on.
+        // A rate on which nothing can be counted fails here, not halfway through the output.
         if (timeline) static_cast<void>(frameBase(timeline->document->fps));
         return timeline;
     });
@@ -105,7 +105,7 @@ void noteRate(const ReadTimeline& timeline, const std::string& title, const Read
                      "; say --fps if it was written at another");
     } else if (options.fps && timeline.namedRate &&
                !(std::abs(*options.fps - *timeline.namedRate) <= sameRate)) {
-        // Not a rate that can be counted on, perhaps: it is not read at that one.
+        // The named rate may be an impossible one, since the list is not read at it.
         const auto named =
             possibly([&]() -> Result<std::string> { return rate(*timeline.namedRate); });
         session.note(title + " names " + named.value_or("another rate") + ": read at " +
@@ -126,7 +126,7 @@ Result<std::unique_ptr<TimelineDocument>> readAsTold(const Input& input,
             because("names no rate, and --to would convert from a guess: say with "
                     "--fps at which rate it was written"));
     }
-    // Whoever printed lines of JSON has said it.
+    // Where lines of JSON come from, it has been said.
     const bool isSaid = content->format == TimelineFormat::jsonLines && !options.fps;
     if (!isSaid) noteRate(*timeline, input.title(), options, session);
     if (options.to) {

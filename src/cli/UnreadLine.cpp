@@ -18,7 +18,7 @@ constexpr std::string_view separators = ":;.,";
 /// A timecode in a wider notation than the reader's: four groups of one or two digits.
 struct WideTimecode {
     std::string_view text;
-    std::string_view separators;  ///< of all that may be, those that occur, the first of them
+    std::string_view otherSeparator;  ///< the first that is not ":"; empty when all are
     bool hasSingleDigit = false;
 };
 
@@ -31,8 +31,8 @@ bool takeTimecode(std::string_view& rest, WideTimecode& timecode) {
             if (after.empty() || separators.find(after.front()) == std::string_view::npos) {
                 return false;
             }
-            if (after.front() != ':' && timecode.separators.empty()) {
-                timecode.separators = after.substr(0, 1);
+            if (after.front() != ':' && timecode.otherSeparator.empty()) {
+                timecode.otherSeparator = after.substr(0, 1);
             }
             after.remove_prefix(1);
         }
@@ -100,10 +100,10 @@ std::string whyUnread(std::string_view line) {
         return holdsFrameCounts(line) ? "frame counts instead of timecodes" : "";
     }
     for (const WideTimecode& timecode : timecodes) {
-        if (timecode.separators == ";") return "a drop-frame separator";
-        if (!timecode.separators.empty()) {
+        if (timecode.otherSeparator == ";") return "a drop-frame separator";
+        if (!timecode.otherSeparator.empty()) {
             std::string reason = "\"";
-            reason += timecode.separators;
+            reason += timecode.otherSeparator;
             reason += "\" instead of \":\" in a timecode";
             return reason;
         }
