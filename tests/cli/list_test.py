@@ -7,10 +7,12 @@ import fcntl
 import json
 import os
 import pty
+import random
 import re
 import struct
 import subprocess
 import termios
+import uuid
 
 from program import (EVENT, FAILED, NAMED, OK, PROGRAM, ProgramTest, Row, fixtures, main, run)
 
@@ -298,6 +300,27 @@ class JSONLines(ProgramTest):
                 done = self.run_program("list", "--from", "jsonl", "-", stdin=stdin)
                 self.assertEqual((done.status, done.text), (FAILED, ""))
                 self.assertIn("clipvane-cli: standard input: line 4 " + reason, done.said)
+
+    def test_texts_are_written_as_json_writes_them(self):
+        """Whatever characters they hold: Python's own writer is the judge."""
+        chance = random.Random(5)
+        usual = "abc \n\r\t\"\\/\u00e9\u6e2f\U0001f3ac\u2028"
+        rare = usual + "".join(map(chr, range(32))) + "\x7f\x80\ufffd\uffff"
+        events = []
+        for row in range(300):
+            texts = {key: "".join(chance.choices(chance.choice([usual, rare]), k=chance.randrange(9)))
+                     for key in KEYS[1:13] if key != "highlighted"}
+            events.append({"id": str(uuid.UUID(int=chance.getrandbits(128))).upper(), **texts,
+                           "highlighted": row % 2 == 0, "fps": 25, "fpsSource": "File"})
+        done = self.run_program("list", "-f", "jsonl", "--from", "jsonl", "-",
+                                stdin="\n".join(map(json.dumps, events)).encode())
+        self.assertEqual((done.status, done.said), (OK, ""))
+        lines = done.text.split("\n")[:-1]
+        self.assertEqual(len(lines), len(events))
+        for line, event in zip(lines, events):
+            written = {key: event[key] for key in KEYS[:13]}
+            form = json.dumps(written, ensure_ascii=False, separators=(",", ":"))
+            self.assertEqual(line[:len(form) - 1], form[:-1])
 
     def test_different_rates_are_one_when_told(self):
         self.put("a.edl", NAMED)
