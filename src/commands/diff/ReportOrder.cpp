@@ -4,6 +4,7 @@
 #include "commands/diff/ReportOrder.h"
 
 #include <algorithm>
+#include <span>
 #include <tuple>
 #include <utility>
 
@@ -58,8 +59,10 @@ class SlotsBehind {
 };
 
 /// The events in one slot. `events` come in the order of slots.
-auto inSlot(const std::vector<InSlot>& events, Slot slot) {
-    return std::ranges::equal_range(events, slot, {}, &InSlot::slot);
+std::span<const InSlot> inSlot(const std::vector<InSlot>& events, Slot slot) {
+    const auto first = std::ranges::lower_bound(events, slot, {}, &InSlot::slot);
+    const auto last = std::ranges::upper_bound(events, slot, {}, &InSlot::slot);
+    return {first, last};
 }
 
 /// Collects the lines of each track.
