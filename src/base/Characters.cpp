@@ -17,6 +17,7 @@ bool isDecimalDigitBeyondASCII(char32_t c) {
 }
 
 std::string_view trimBlanksAndNewlines(std::string_view text) {
+    while (text.starts_with(' ')) text.remove_prefix(1);  // most of what there is to trim
     const auto stays = [](char c) { return isGraphicASCII(static_cast<unsigned char>(c)); };
     if (!text.empty() && stays(text.front()) && stays(text.back())) return text;
     while (!text.empty()) {

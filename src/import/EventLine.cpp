@@ -53,8 +53,9 @@ bool beginsOtherwise(std::string_view line) {
 
 std::optional<EventLine> matchEventLine(std::string_view line) {
     if (beginsOtherwise(line)) return std::nullopt;
-    if (auto columns = matchPlainEventLine(line)) return columns;
-    return matchAnyEventLine(line);
+    auto columns = matchPlainEventLine(line);
+    if (!columns) columns = matchAnyEventLine(line);
+    return columns;
 }
 
 // Every column is a run that cannot contain what follows it, so the longest run is the only one

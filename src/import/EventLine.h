@@ -31,7 +31,7 @@ std::optional<EventLine> matchEventLine(std::string_view line);
 // What that tries in turn.
 
 /// The straight way, for lines as nearly all are written: columns of graphic ASCII with blanks and
-/// tabs between them, up to the last timecode. Nothing for any other line, event line or not.
+/// tabs between them, one between the timecodes. Nothing for any other line, event line or not.
 std::optional<EventLine> matchPlainEventLine(std::string_view line);
 
 /// The general way, which takes every line.

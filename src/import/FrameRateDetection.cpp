@@ -10,26 +10,33 @@
 namespace clipvane {
 namespace {
 
-constexpr std::size_t blockSize = sizeof(ByteBlock);
+/// Bytes that are looked at together, as two blocks.
+constexpr std::size_t stride = 2 * sizeof(ByteBlock);
 
 /// Bytes in lower case; other characters may come out as letters, which a closer look sorts out.
 ByteBlock lowerCaseBlock(const char* bytes) {
     return loadBlock(bytes) | 0x20;
 }
 
-/// Whether a place where a frame rate may be named, "fp", "fra" or "tim", starts in the sixteen
-/// bytes. Reads two bytes beyond them.
-bool mayHoldName(const char* bytes) {
+/// Where "fp", "fr" or "ti" starts: most bytes hold not even two letters of a name.
+auto mayBeginName(const char* bytes) {
     const ByteBlock first = lowerCaseBlock(bytes);
     const ByteBlock second = lowerCaseBlock(bytes + 1);
-    // Most bytes hold not even two such letters: "fp" or "fr", and "ti".
-    if (!holdsAnywhere(((first == 'f') & ((second | 2) == 'r')) |
-                       ((first == 't') & (second == 'i')))) {
-        return false;
-    }
+    return ((first == 'f') & ((second | 2) == 'r')) | ((first == 't') & (second == 'i'));
+}
+
+/// Where "fp", "fra" or "tim" starts, and a few others that a closer look sorts out.
+auto beginsName(const char* bytes) {
+    const ByteBlock second = lowerCaseBlock(bytes + 1);
     const ByteBlock third = lowerCaseBlock(bytes + 2);
-    return holdsAnywhere(((first == 'f') & ((second == 'p') | ((second == 'r') & (third == 'a')))) |
-                         ((first == 't') & (second == 'i') & (third == 'm')));
+    return mayBeginName(bytes) & ((second == 'p') | (third == 'a') | (third == 'm'));
+}
+
+/// Whether a place where a frame rate may be named starts in the bytes. Reads two beyond them.
+bool mayHoldName(const char* bytes) {
+    const char* const next = bytes + sizeof(ByteBlock);
+    return holdsAnywhere(mayBeginName(bytes) | mayBeginName(next)) &&
+           holdsAnywhere(beginsName(bytes) | beginsName(next));
 }
 
 /// The first match of each form in which a file may name its rate. An unusable rate is a match,
@@ -73,9 +80,9 @@ std::optional<double> detectFPS(std::string_view in) {
     FirstMatches matches;
     std::size_t position = 0;
     while (position < in.size() && !matches.decided()) {
-        const bool wholeBlock = position + blockSize + 2 <= in.size();
-        const std::size_t end = wholeBlock ? position + blockSize : in.size();
-        if (!wholeBlock || mayHoldName(in.data() + position)) {
+        const bool isWhole = position + stride + 2 <= in.size();
+        const std::size_t end = isWhole ? position + stride : in.size();
+        if (!isWhole || mayHoldName(in.data() + position)) {
             for (std::size_t i = position; i < end && !matches.decided(); ++i)
                 matches.lookAt(in, i);
         }

@@ -30,6 +30,11 @@ std::size_t graphicPrefix(std::uint64_t characters) {
     return static_cast<std::size_t>(std::countr_zero(others)) / 8;
 }
 
+/// The number of blanks before the first other of eight characters.
+std::size_t spacePrefix(std::uint64_t characters) {
+    return static_cast<std::size_t>(std::countr_zero(characters ^ repeated(' '))) / 8;
+}
+
 constexpr bool isPlainBlank(char c) {
     return c == ' ' || c == '\t';
 }
@@ -39,15 +44,15 @@ bool areDigits(std::string_view text) {
                                [](char c) { return isASCIIDigit(static_cast<unsigned char>(c)); });
 }
 
-/// Goes along a line that has more than a column to come. What is not plain gives nothing.
+/// Goes along a line's columns. What is not plain gives nothing. Eight bytes are looked at
+/// together, which a line has everywhere before its last timecode.
 class PlainColumns {
   public:
     explicit PlainColumns(std::string_view line) : at(line.data()), end(at + line.size()) {
         skipBlanks();
     }
 
-    /// A column, and the blanks behind it. Eight bytes are looked at together, which a line has
-    /// behind every column but the last timecode.
+    /// A column, and the blanks behind it.
     std::string_view take() {
         const char* const begin = at;
         std::size_t prefix = wordSize;
@@ -68,12 +73,13 @@ class PlainColumns {
     /// Whether a timecode comes rather than a duration, which is digits alone.
     bool isAtTimecode() const { return left() > 2 && at[2] == ':'; }
 
-    std::optional<PackedTimecode> takeTimecode() {
-        if (!isSeparated || left() < twoDigitLength) return std::nullopt;
-        const std::span<const char, twoDigitLength> text(at, twoDigitLength);
-        at += twoDigitLength;
-        isSeparated = skipBlanks();
-        return PackedTimecode::pack(text);
+    /// The timecode after `index` others, with one blank between each two.
+    std::optional<PackedTimecode> timecode(std::size_t index) const {
+        constexpr std::size_t stride = twoDigitLength + 1;
+        if (left() < index * stride + twoDigitLength) return std::nullopt;
+        const char* const begin = at + index * stride;
+        if (index > 0 && !isPlainBlank(begin[-1])) return std::nullopt;
+        return PackedTimecode::pack(std::span<const char, twoDigitLength>(begin, twoDigitLength));
     }
 
   private:
@@ -81,13 +87,13 @@ class PlainColumns {
 
     bool skipBlanks() {
         const char* const begin = at;
+        if (left() >= wordSize) at += spacePrefix(eightCharacters(at));
         while (at != end && isPlainBlank(*at)) ++at;
         return at != begin;
     }
 
     const char* at;
     const char* end;
-    bool isSeparated = true;  ///< blanks stand before what comes, or a beginning
 };
 
 }  // namespace
@@ -103,10 +109,10 @@ std::optional<EventLine> matchPlainEventLine(std::string_view line) {
     if (event.reel.empty() || event.track.empty() || editType.empty()) return std::nullopt;
 
     if (!columns.isAtTimecode() && columns.takeNumber().empty()) return std::nullopt;
-    for (FoundTimecode& timecode : event.timecodes) {
-        const auto packed = columns.takeTimecode();
-        if (!packed) return std::nullopt;
-        timecode = *packed;
+    for (std::size_t i = 0; i < event.timecodes.size(); ++i) {
+        const auto timecode = columns.timecode(i);
+        if (!timecode) return std::nullopt;
+        event.timecodes[i] = *timecode;
     }
     return event;
 }

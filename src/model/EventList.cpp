@@ -113,7 +113,9 @@ std::uint32_t EventList::addRow(const FoundEvent& event) {
     EventRow& row = rows.push_back({});
     placeTexts(row, index, event);
     for (std::size_t i = 0; i < row.timecodes.size(); ++i) {
-        row.timecodes[i] = keepTimecode(event.timecodes[i]);
+        const FoundTimecode& timecode = event.timecodes[i];
+        row.timecodes[i] =
+            timecode.oddText().empty() ? timecode.usual() : keepOdd(timecode.oddText());
     }
     if (!event.comments.empty()) {
         comments.insert_or_assign(index, event.comments);
@@ -160,12 +162,11 @@ void EventList::placeTexts(EventRow& row, std::uint32_t index, const FoundEvent&
     }
 }
 
-RowTimecode EventList::keepTimecode(const FoundTimecode& timecode) {
-    if (timecode.oddText().empty()) return timecode.usual();
+RowTimecode EventList::keepOdd(std::string_view timecode) {
     if (oddTimecodes.size() > RowTimecode::mostTexts) {
         throw std::length_error("more timecodes of an unusual form than a list can number");
     }
-    oddTimecodes.push_back(std::string(timecode.oddText()));
+    oddTimecodes.push_back(std::string(timecode));
     return RowTimecode::ofText(static_cast<std::uint32_t>(oddTimecodes.size() - 1));
 }
 

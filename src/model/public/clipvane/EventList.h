@@ -91,7 +91,7 @@ class EventList {
     std::uint32_t addRow(const FoundEvent& event);
     std::uint32_t addRow(const TimelineEvent& event);
     void placeTexts(EventRow& row, std::uint32_t index, const FoundEvent& event);
-    RowTimecode keepTimecode(const FoundTimecode& timecode);
+    RowTimecode keepOdd(std::string_view timecode);
     std::string_view timecodeText(RowTimecode timecode, std::span<char, twoDigitLength> room) const;
     void forget(std::uint32_t index) noexcept;
 
