@@ -6,7 +6,7 @@
 #include "Rates.h"
 #include "Target.h"
 #include "base/UTF8.h"
-#include "import/CommonTimelineXMLDelegate.h"
+#include "import/XMLTiming.h"
 #include "judges/TimingJudge.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -15,18 +15,22 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::string_view bytes = textOf(data, size);
     const double fps = takeRate(bytes);
     const std::string value = replaceInvalidUTF8(bytes);
-    const CommonTimelineXMLDelegate reader(fps);
 
-    const auto timing = unlessFatal([&] { return reader.timing(value); });
-    require(timing == unlessFatal([&] { return test::judgedTiming(value, fps); }),
+    const auto time = unlessFatal([&] { return xmlTime(value, fps); });
+    const auto judged = unlessFatal([&] { return test::judgedTiming(value, fps); });
+    require(time.has_value() == judged.has_value() && (!time || time->text == *judged),
             "the timing is the described one");
-    const auto frames = unlessFatal([&] { return reader.frames(value); });
+    const auto frames = unlessFatal([&] { return xmlFrames(value, fps); });
     require(frames == unlessFatal([&] { return test::judgedTimingFrames(value, fps); }),
             "the frames are counted as described");
+    if (time && time->frames) {
+        const auto again = unlessFatal([&] { return xmlFrames(time->text, fps); });
+        require(again && *again == time->frames, "the kept count is the one of the text");
+    }
 
     // What was written for a number of frames is read as that number.
-    if (!timing || !frames || !*frames) return 0;
-    const auto again = unlessFatal([&] { return reader.frames(reader.timecode(**frames)); });
-    require(again == frames, "a timecode counts the frames that it was written for");
+    if (!frames || !*frames) return 0;
+    const auto written = unlessFatal([&] { return xmlFrames(xmlTimeOf(**frames, fps).text, fps); });
+    require(written == frames, "a timecode counts the frames that it was written for");
     return 0;
 }

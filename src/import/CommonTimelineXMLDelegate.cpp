@@ -14,6 +14,8 @@
 namespace clipvane {
 namespace {
 
+using Attribute = XMLAttribute;
+
 void fillIfEmpty(std::string& field, std::string_view text) {
     if (field.empty()) field = text;
 }
@@ -29,45 +31,43 @@ bool isTrue(std::string_view value) {
 
 }  // namespace
 
-void CommonTimelineXMLDelegate::didStartElement(std::string_view name,
-                                                const XMLAttributes& attributes) {
+void CommonTimelineXMLDelegate::didStartElement(XMLElement element, std::string_view name,
+                                                const char* const* attributes) {
     currentText.clear();
-    switch (const XMLElement element = classifyXMLElement(name)) {
+    switch (element) {
         case XMLElement::asset:
         case XMLElement::file:
-            startAsset(attributes);
+            startAsset(XMLAttributes(attributes));
             break;
         case XMLElement::event:
-            startEvent(name, attributes);
+            startEvent(name, XMLAttributes(attributes));
             break;
         case XMLElement::source:
+            if (event) setRange(XMLAttributes(attributes), event->sourceIn, event->sourceOut);
+            break;
         case XMLElement::record:
-            if (isPending) {
-                const bool isSource = element == XMLElement::source;
-                setRange(attributes, isSource ? event.sourceIn : event.recordIn,
-                         isSource ? event.sourceOut : event.recordOut);
-            }
+            if (event) setRange(XMLAttributes(attributes), event->recordIn, event->recordOut);
             break;
         case XMLElement::clip:
-            startClip(name, attributes);
+            startClip(name, XMLAttributes(attributes));
             break;
         default:
             break;
     }
+    if (event && fillsField(element)) ++openFields;
 }
 
 void CommonTimelineXMLDelegate::foundCharacters(std::string_view characters) {
-    // Without a pending event nobody will ask for the text.
-    if (isPending) currentText += characters;
+    if (awaitsCharacters()) currentText += characters;
 }
 
-void CommonTimelineXMLDelegate::didEndElement(std::string_view name) {
-    if (!isPending) return;
-    const XMLElement element = classifyXMLElement(name);
+void CommonTimelineXMLDelegate::didEndElement(XMLElement element) {
+    if (!event) return;
     if (endsEvent(element)) {
         completeEvent();
-    } else if (element != XMLElement::other) {
+    } else if (fillsField(element)) {
         setField(element);
+        if (openFields > 0) --openFields;
     }
 }
 
@@ -77,52 +77,59 @@ EventList CommonTimelineXMLDelegate::finish() {
 }
 
 void CommonTimelineXMLDelegate::startAsset(const XMLAttributes& attributes) {
-    const auto id = attributes.firstOf({"id", "uid"});
+    const auto id = attributes.firstOf({Attribute::id, Attribute::uid});
     if (!id) return;
-    assetNames[std::string(*id)] = attributes.firstOf({"name", "src", "pathurl"}).value_or(*id);
+    assetNames[std::string(*id)] =
+        attributes.firstOf({Attribute::name, Attribute::src, Attribute::pathurl}).value_or(*id);
 }
 
 void CommonTimelineXMLDelegate::startEvent(std::string_view name, const XMLAttributes& attributes) {
     beginEvent(name);
-    if (const auto number = attributes.find("number")) {
-        event.eventNumber = cleanedXMLText(*number).view();
+    if (const auto number = attributes.find(Attribute::number)) {
+        event->eventNumber = cleanedXMLText(*number).view();
     }
-    event.highlighted = isTrue(attributes.find("highlighted").value_or(""));
+    event->highlighted = isTrue(attributes.find(Attribute::highlighted).value_or(""));
 }
 
 void CommonTimelineXMLDelegate::startClip(std::string_view name, const XMLAttributes& attributes) {
-    const std::string_view reference = attributes.firstOf({"ref", "asset", "id"}).value_or("");
+    const std::string_view reference =
+        attributes.firstOf({Attribute::ref, Attribute::asset, Attribute::id}).value_or("");
     const auto displayName = [&]() -> std::string_view {
-        if (const auto value = attributes.find("name")) return *value;
+        if (const auto value = attributes.find(Attribute::name)) return *value;
         if (const auto found = assetNames.find(reference); found != assetNames.end()) {
             effort += found->second.size();
             return found->second;
         }
-        return attributes.find("lane").value_or(name);
+        return attributes.find(Attribute::lane).value_or(name);
     };
-    const std::string_view start = attributes.firstOf({"start", "tcStart", "in"}).value_or("");
+    const std::string_view start =
+        attributes.firstOf({Attribute::start, Attribute::tcStart, Attribute::in}).value_or("");
     const std::string_view offset =
-        attributes.firstOf({"offset", "timelineStart", "start"}).value_or("");
-    const std::string_view duration = attributes.find("duration").value_or("");
+        attributes.firstOf({Attribute::offset, Attribute::timelineStart, Attribute::start})
+            .value_or("");
+    const std::string_view duration = attributes.find(Attribute::duration).value_or("");
     const std::string_view reel =
-        reference.empty() ? attributes.firstOf({"reel", "src"}).value_or("") : reference;
-    const auto out = attributes.find("out");
-    const auto recordEnd = attributes.find("end");
+        reference.empty() ? attributes.firstOf({Attribute::reel, Attribute::src}).value_or("")
+                          : reference;
+    const auto out = attributes.find(Attribute::out);
+    const auto recordEnd = attributes.find(Attribute::end);
 
     beginEvent(name);
-    event.clipName = cleanedXMLText(displayName()).view();
-    event.sourceIn = timing(start);
-    event.recordIn = timing(offset);
-    event.reelID = cleanedXMLText(reel).view();
-    event.sourceOut = out ? timing(*out) : end(event.sourceIn, duration);
-    event.recordOut = recordEnd ? timing(*recordEnd) : end(event.recordIn, duration);
-    event.track = cleanedXMLText(attributes.firstOf({"lane", "track"}).value_or(name)).view();
+    event->clipName = cleanedXMLText(displayName()).view();
+    event->sourceIn = time(start);
+    event->recordIn = time(offset);
+    event->reelID = cleanedXMLText(reel).view();
+    event->sourceOut = out ? time(*out) : end(event->sourceIn, duration);
+    event->recordOut = recordEnd ? time(*recordEnd) : end(event->recordIn, duration);
+    event->track =
+        cleanedXMLText(attributes.firstOf({Attribute::lane, Attribute::track}).value_or(name))
+            .view();
 }
 
-void CommonTimelineXMLDelegate::setRange(const XMLAttributes& attributes, std::string& in,
-                                         std::string& out) const {
-    if (const auto value = attributes.find("in")) in = timing(*value);
-    if (const auto value = attributes.find("out")) out = timing(*value);
+void CommonTimelineXMLDelegate::setRange(const XMLAttributes& attributes, XMLTime& in,
+                                         XMLTime& out) const {
+    if (const auto value = attributes.find(Attribute::in)) in = time(*value);
+    if (const auto value = attributes.find(Attribute::out)) out = time(*value);
 }
 
 void CommonTimelineXMLDelegate::setField(XMLElement element) {
@@ -130,41 +137,41 @@ void CommonTimelineXMLDelegate::setField(XMLElement element) {
     const ViewOrCopy cleaned = cleanedXMLText(currentText);
     const std::string_view text = cleaned.view();
     if (text.empty()) return;
-    const auto fillTime = [&](std::string& field) {
-        if (field.empty()) field = timing(text);
+    const auto fillTime = [&](XMLTime& field) {
+        if (field.text.empty()) field = time(text);
     };
     switch (element) {
         case XMLElement::clipName:
-            event.clipName = text;
+            event->clipName = text;
             break;
         case XMLElement::name:
-            if (isPlaceholderName(event.clipName)) event.clipName = text;
+            if (isPlaceholderName(event->clipName)) event->clipName = text;
             break;
         case XMLElement::reel:
         case XMLElement::file:
-            fillIfEmpty(event.reelID, text);
+            fillIfEmpty(event->reelID, text);
             break;
         case XMLElement::track:
-            fillIfEmpty(event.track, text);
+            fillIfEmpty(event->track, text);
             break;
         case XMLElement::comments:
-            event.comments = text;
+            event->comments = text;
             break;
         case XMLElement::in:
-            fillTime(event.sourceIn);
+            fillTime(event->sourceIn);
             break;
         case XMLElement::out:
-            fillTime(event.sourceOut);
+            fillTime(event->sourceOut);
             break;
         case XMLElement::start:
-            fillTime(event.recordIn);
+            fillTime(event->recordIn);
             break;
         case XMLElement::end:
-            fillTime(event.recordOut);
+            fillTime(event->recordOut);
             break;
         case XMLElement::duration:
-            if (event.sourceOut.empty()) event.sourceOut = end(event.sourceIn, text);
-            if (event.recordOut.empty()) event.recordOut = end(event.recordIn, text);
+            if (event->sourceOut.text.empty()) event->sourceOut = end(event->sourceIn, text);
+            if (event->recordOut.text.empty()) event->recordOut = end(event->recordIn, text);
             break;
         default:
             break;
@@ -174,32 +181,32 @@ void CommonTimelineXMLDelegate::setField(XMLElement element) {
 /// A new event, numbered by its position. The one before it ends, whether it was closed or not.
 void CommonTimelineXMLDelegate::beginEvent(std::string_view name) {
     completeEvent();
-    isPending = true;
-    event = {};
-    appendInteger(event.eventNumber, static_cast<std::int64_t>(events.size() + 1));
-    event.rawText = name;
+    event.emplace();
+    event->elementName = name;
+    appendInteger(event->eventNumber, static_cast<std::int64_t>(events.size() + 1));
 }
 
 void CommonTimelineXMLDelegate::completeEvent() {
-    if (!isPending) return;
-    isPending = false;
-    events.append({.eventNumber = event.eventNumber,
-                   .clipName = event.clipName,
-                   .reelID = event.reelID,
-                   .track = event.track,
-                   .timecodes = {event.sourceIn, event.sourceOut, event.recordIn, event.recordOut},
+    if (!event) return;
+    events.append({.eventNumber = event->eventNumber,
+                   .clipName = event->clipName,
+                   .reelID = event->reelID,
+                   .track = event->track,
+                   .timecodes = {event->sourceIn.text, event->sourceOut.text, event->recordIn.text,
+                                 event->recordOut.text},
                    .format = "XML",
-                   .comments = event.comments,
-                   .highlighted = event.highlighted,
-                   .lines = events.keepCopy(event.rawText)});
+                   .comments = event->comments,
+                   .highlighted = event->highlighted,
+                   .lines = events.keepCopy(event->elementName)});
+    event.reset();
+    openFields = 0;
 }
 
 /// The timecode `duration` after `start`, or empty text when either has no frame count.
-std::string CommonTimelineXMLDelegate::end(std::string_view start,
-                                           std::string_view duration) const {
-    const auto first = frames(start);
-    const auto count = first ? frames(duration) : std::nullopt;
-    return count ? timecode(addChecked(*first, *count)) : std::string();
+XMLTime CommonTimelineXMLDelegate::end(const XMLTime& start, std::string_view duration) const {
+    const auto first = xmlFrames(start, fps);
+    const auto count = first ? xmlFrames(duration, fps) : std::nullopt;
+    return count ? xmlTimeOf(addChecked(*first, *count), fps) : XMLTime();
 }
 
 }  // namespace clipvane

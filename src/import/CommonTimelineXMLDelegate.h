@@ -4,7 +4,6 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <functional>
 #include <map>
 #include <optional>
@@ -12,40 +11,45 @@
 #include <string_view>
 
 #include <clipvane/EventList.h>
-#include <clipvane/TimelineEvent.h>
 #include "import/XMLAttributes.h"
 #include "import/XMLElement.h"
+#include "import/XMLTiming.h"
 
 namespace clipvane {
 
+/// An event of an XML timeline, while elements write into it.
+struct PendingXMLEvent {
+    std::string elementName;
+    std::string eventNumber;
+    std::string clipName;
+    std::string reelID;
+    std::string track;
+    XMLTime sourceIn;
+    XMLTime sourceOut;
+    XMLTime recordIn;
+    XMLTime recordOut;
+    std::string comments;
+    bool highlighted = false;
+};
+
 /// Turns one XML timeline into events. An event-driven parser calls it back with each element's
-/// start, with character data, and with each element's end, all in UTF-8; whatever it understood
-/// is in the list that `finish` gives. One object serves one document.
+/// start, with character data, and with each element's end; whatever it understood is in the list
+/// that `finish` gives. Texts are UTF-8. One object serves one document.
 class CommonTimelineXMLDelegate {
   public:
     /// `fps`: frames per second at which frame numbers and seconds become timecodes.
     explicit CommonTimelineXMLDelegate(double fps) : fps(fps) {}
 
-    void didStartElement(std::string_view name, const XMLAttributes& attributes);
+    /// An element begins: its meaning, its name as written, and its attributes as `XMLAttributes`
+    /// takes them.
+    void didStartElement(XMLElement element, std::string_view name, const char* const* attributes);
     void foundCharacters(std::string_view characters);
-    void didEndElement(std::string_view name);
+    /// Whether anybody will ask for character data that is found now.
+    bool awaitsCharacters() const { return openFields > 0; }
+    void didEndElement(XMLElement element);
 
     /// There is nothing more to come: the events, in the order in which they began.
     EventList finish();
-
-    // Timing values: frame numbers ("250"), seconds ("10s", "1001/30000s") and timecodes. They are
-    // not the timecode arithmetic's: no drop-frame separator is ever written, and a timecode needs
-    // a colon. A count outside 64 bits is fatal, as is a number that is not finite.
-
-    /// A timing value as a timecode: a timecode as it stands, empty text for empty text or a
-    /// negative frame number, and what cannot be understood as it stands, too.
-    std::string timing(std::string_view value) const;
-
-    /// The frames in a timing value, or nothing when it is none.
-    std::optional<std::int64_t> frames(std::string_view from) const;
-
-    /// HH:MM:SS:FF; every field of a negative count carries its own minus sign.
-    std::string timecode(std::int64_t fromFrames) const;
 
     /// What all this has cost so far, in bytes of text handled again beyond those that the parser
     /// handed over. A hostile document can make it grow with the square of its size.
@@ -55,21 +59,21 @@ class CommonTimelineXMLDelegate {
     void startAsset(const XMLAttributes& attributes);
     void startEvent(std::string_view name, const XMLAttributes& attributes);
     void startClip(std::string_view name, const XMLAttributes& attributes);
-    void setRange(const XMLAttributes& attributes, std::string& in, std::string& out) const;
+    void setRange(const XMLAttributes& attributes, XMLTime& in, XMLTime& out) const;
     void setField(XMLElement element);
     void beginEvent(std::string_view name);
     void completeEvent();
-    std::string end(std::string_view start, std::string_view duration) const;
+    XMLTime time(std::string_view value) const { return xmlTime(value, fps); }
+    XMLTime end(const XMLTime& start, std::string_view duration) const;
 
     double fps;
     /// Display names by asset id. A tree: the ids that fall together in a hash table can be
     /// guessed.
     std::map<std::string, std::string, std::less<>> assetNames;
-    std::string
-        currentText;      ///< character data since the last element start, if an event is pending
-    TimelineEvent event;  ///< while it is pending: what elements write into
-    bool isPending = false;  ///< it has begun, and has not ended
-    EventList events;        ///< those that have ended
+    std::string currentText;  ///< character data since the last element start, if it is awaited
+    std::optional<PendingXMLEvent> event;  ///< that has begun, and has not ended
+    std::size_t openFields = 0;  ///< elements of the pending event that wait for their text
+    EventList events;            ///< those that have ended
 };
 
 }  // namespace clipvane

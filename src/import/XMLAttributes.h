@@ -3,43 +3,62 @@
 
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <initializer_list>
 #include <optional>
 #include <string_view>
 
 namespace clipvane {
 
-/// The attributes of one element: a view of names and values in turn, ended by a null pointer, as
-/// the XML parser hands them over. Names are unique and case-sensitive.
+/// The attributes of XML timelines that mean something to the reader, under their own names.
+enum class XMLAttribute {
+    asset,
+    duration,
+    end,
+    highlighted,
+    id,
+    in,
+    lane,
+    name,
+    number,
+    offset,
+    out,
+    pathurl,
+    ref,
+    reel,
+    src,
+    start,
+    tcStart,
+    timelineStart,
+    track,
+    uid,  // the last
+};
+
+/// The attributes of one element, gone through once. Names are case-sensitive.
 class XMLAttributes {
   public:
-    explicit XMLAttributes(const char* const* namesAndValues) : namesAndValues(namesAndValues) {}
+    /// Names, which are unique, and values in turn, ended by a null pointer, as the XML parser
+    /// hands them over. The values must outlive this.
+    explicit XMLAttributes(const char* const* namesAndValues);
 
-    bool empty() const { return *namesAndValues == nullptr; }
-
-    /// The value, possibly empty, of the attribute called `name`; nothing without one.
-    std::optional<std::string_view> find(std::string_view name) const {
-        for (const char* const* pair = namesAndValues; *pair != nullptr; pair += 2) {
-            if (isCalled(pair[0], name)) return pair[1];
-        }
-        return std::nullopt;
+    /// The value, possibly empty, of an attribute; nothing without one.
+    std::optional<std::string_view> find(XMLAttribute attribute) const {
+        const char* const value = values[static_cast<std::size_t>(attribute)];
+        if (value == nullptr) return std::nullopt;
+        return value;
     }
 
-    /// The value of the first of `names` that the element has.
-    std::optional<std::string_view> firstOf(std::initializer_list<std::string_view> names) const {
-        for (const std::string_view name : names) {
-            if (const auto value = find(name)) return value;
+    /// The value of the first of `attributes` that the element has.
+    std::optional<std::string_view> firstOf(std::initializer_list<XMLAttribute> attributes) const {
+        for (const XMLAttribute attribute : attributes) {
+            if (const auto value = find(attribute)) return value;
         }
         return std::nullopt;
     }
 
   private:
-    /// Most names differ in their first letter.
-    static bool isCalled(const char* attribute, std::string_view name) {
-        return attribute[0] == name[0] && name == attribute;
-    }
-
-    const char* const* namesAndValues;
+    std::array<const char*, static_cast<std::size_t>(XMLAttribute::uid) + 1> values{};
 };
 
 }  // namespace clipvane

@@ -3,12 +3,13 @@
 
 #pragma once
 
+#include <cstdint>
 #include <string_view>
 
 namespace clipvane {
 
 /// What an element of an XML timeline means to the reader. Element names count in either case.
-enum class XMLElement {
+enum class XMLElement : std::uint8_t {
     other,
     // Elements that name the media which clips refer to.
     asset,  // asset, media
@@ -35,9 +36,9 @@ enum class XMLElement {
 /// The meaning of the element called `name` (UTF-8, as written).
 XMLElement classifyXMLElement(std::string_view name);
 
-/// Whether the element can name media that clips refer to.
-constexpr bool isAsset(XMLElement element) {
-    return element == XMLElement::asset || element == XMLElement::file;
+/// Whether the element's text fills a field.
+constexpr bool fillsField(XMLElement element) {
+    return element == XMLElement::file || element >= XMLElement::clipName;
 }
 
 /// Whether the element's end tag ends the pending event.

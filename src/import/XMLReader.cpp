@@ -12,9 +12,11 @@
 #include <memory>
 #include <new>
 #include <utility>
+#include <vector>
 
 #include "import/CommonTimelineXMLDelegate.h"
 #include "import/EntityChains.h"
+#include "import/XMLElement.h"
 #include "import/XMLEncoding.h"
 
 namespace clipvane {
@@ -58,7 +60,6 @@ class ParserRun {
         if (!parser) throw std::bad_alloc();
         XML_SetUserData(parser.get(), this);
         XML_SetElementHandler(parser.get(), startElement, endElement);
-        XML_SetCharacterDataHandler(parser.get(), characters);
         XML_SetEntityDeclHandler(parser.get(), entityDeclaration);
         XML_SetAttlistDeclHandler(parser.get(), attributeDeclaration);
         XML_SetBillionLaughsAttackProtectionMaximumAmplification(parser.get(),
@@ -116,14 +117,16 @@ class ParserRun {
 
     static void startElement(void* userData, const XML_Char* name, const XML_Char** attributes) {
         auto& run = *static_cast<ParserRun*>(userData);
-        if (++run.level > mostLevels) run.stop();
+        if (run.open.size() == mostLevels) run.stop();
         // Those that the element's declaration adds cost the document nothing.
         const int specified = XML_GetSpecifiedAttributeCount(run.parser.get());
         for (auto added = attributes + specified; *added != nullptr; added += 2) {
             run.delegate.effort += effortPerDefaultAttribute;
         }
         guarded(userData, [&](CommonTimelineXMLDelegate& reader) {
-            reader.didStartElement(name, XMLAttributes(attributes));
+            run.open.push_back(classifyXMLElement(name));
+            reader.didStartElement(run.open.back(), name, attributes);
+            run.askForCharacters();
             if (run.watcher != nullptr)
                 run.watcher->element(name, *attributes != nullptr, run.line());
         });
@@ -135,9 +138,20 @@ class ParserRun {
         });
     }
 
-    static void endElement(void* userData, const XML_Char* name) {
-        --static_cast<ParserRun*>(userData)->level;
-        guarded(userData, [&](CommonTimelineXMLDelegate& reader) { reader.didEndElement(name); });
+    static void endElement(void* userData, const XML_Char* /*name*/) {
+        auto& run = *static_cast<ParserRun*>(userData);
+        guarded(userData, [&](CommonTimelineXMLDelegate& reader) {
+            reader.didEndElement(run.open.back());
+            run.open.pop_back();
+            run.askForCharacters();
+        });
+    }
+
+    /// The blanks between elements, for one, are nobody's, and need not be handed over.
+    void askForCharacters() {
+        if (delegate.awaitsCharacters() == hasAsked) return;
+        hasAsked = !hasAsked;
+        XML_SetCharacterDataHandler(parser.get(), hasAsked ? characters : nullptr);
     }
 
     /// Parameter entities have no chains: the parser is not told to expand them.
@@ -166,8 +180,9 @@ class ParserRun {
     std::unique_ptr<XML_ParserStruct, decltype(&XML_ParserFree)> parser;
     std::exception_ptr failure;
     bool hasStopped = false;
-    bool hasProgressed = false;  ///< called back during the current piece
-    std::size_t level = 0;
+    bool hasProgressed = false;    ///< called back during the current piece
+    bool hasAsked = false;         ///< for character data
+    std::vector<XMLElement> open;  ///< the meanings of the elements that have not ended
     std::size_t effortAllowed = 0;
     EntityChains chains{longestEntityChain};
     int defaultAttributes = 0;

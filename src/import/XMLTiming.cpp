@@ -1,9 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
+#include "import/XMLTiming.h"
+
 #include <clipvane/Timecode.h>
 #include "base/Number.h"
-#include "import/CommonTimelineXMLDelegate.h"
 #include "import/XMLText.h"
 
 namespace clipvane {
@@ -38,7 +39,7 @@ std::optional<std::int64_t> secondsFrames(std::string_view seconds, double fps) 
 }
 
 std::optional<std::int64_t> cleanedFrames(std::string_view text, double fps) {
-    if (holdsColon(text)) return clipvane::frames(text, fps);
+    if (holdsColon(text)) return frames(text, fps);
     if (text.ends_with('s')) return secondsFrames(text.substr(0, text.size() - 1), fps);
     const auto number = parseNumber(text);
     if (!number || *number < 0) return std::nullopt;
@@ -47,22 +48,26 @@ std::optional<std::int64_t> cleanedFrames(std::string_view text, double fps) {
 
 }  // namespace
 
-std::string CommonTimelineXMLDelegate::timing(std::string_view value) const {
+XMLTime xmlTime(std::string_view value, double fps) {
     const ViewOrCopy cleaned = cleanedXMLText(value);
     const std::string_view text = cleaned.view();
     if (text.empty() || isNegativeNumber(text)) return {};
-    if (holdsColon(text)) return std::string(text);
+    if (holdsColon(text)) return {std::string(text), {}};
     const auto count = cleanedFrames(text, fps);
-    return count ? timecode(*count) : std::string(text);
+    return count ? xmlTimeOf(*count, fps) : XMLTime{std::string(text), {}};
 }
 
-std::optional<std::int64_t> CommonTimelineXMLDelegate::frames(std::string_view from) const {
-    return cleanedFrames(cleanedXMLText(from).view(), fps);
-}
-
-std::string CommonTimelineXMLDelegate::timecode(std::int64_t fromFrames) const {
+XMLTime xmlTimeOf(std::int64_t frames, double fps) {
     constexpr bool usesDropFrameSeparator = false;
-    return clipvane::timecode(fromFrames, fps, usesDropFrameSeparator);
+    return {timecode(frames, fps, usesDropFrameSeparator), frames};
+}
+
+std::optional<std::int64_t> xmlFrames(std::string_view value, double fps) {
+    return cleanedFrames(cleanedXMLText(value).view(), fps);
+}
+
+std::optional<std::int64_t> xmlFrames(const XMLTime& time, double fps) {
+    return time.frames ? time.frames : xmlFrames(time.text, fps);
 }
 
 }  // namespace clipvane

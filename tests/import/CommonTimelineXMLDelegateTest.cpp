@@ -187,12 +187,12 @@ TEST(XMLClips, TextIsOnlyResetAtElementStarts) {
 TEST(CommonTimelineXMLDelegate, ClosingSequenceWithoutClosingClip_EndsTheEvent) {
     const char* const none[] = {nullptr};
     CommonTimelineXMLDelegate reader(25);
-    reader.didStartElement("sequence", XMLAttributes(none));
-    reader.didStartElement("clip", XMLAttributes(none));
-    reader.didEndElement("sequence");
-    reader.didStartElement("name", XMLAttributes(none));
+    reader.didStartElement(XMLElement::container, "sequence", none);
+    reader.didStartElement(XMLElement::clip, "clip", none);
+    reader.didEndElement(XMLElement::container);
+    reader.didStartElement(XMLElement::name, "name", none);
     reader.foundCharacters("lost");
-    reader.didEndElement("name");
+    reader.didEndElement(XMLElement::name);
     const EventList events = reader.finish();
     ASSERT_EQ(events.size(), 1U);
     EXPECT_EQ(events[0].clipName, "clip");
@@ -202,12 +202,12 @@ TEST(CommonTimelineXMLDelegate, TextInPieces_IsAppended) {
     const char* const none[] = {nullptr};
     const char* const attributes[] = {"ref", "r1", "start", "1s", nullptr};
     CommonTimelineXMLDelegate reader(24);
-    reader.didEndElement("clip");
+    reader.didEndElement(XMLElement::clip);
     reader.foundCharacters("before");
-    reader.didStartElement("clip", XMLAttributes(attributes));
-    reader.didStartElement("comment", XMLAttributes(none));
+    reader.didStartElement(XMLElement::clip, "clip", attributes);
+    reader.didStartElement(XMLElement::comments, "comment", none);
     for (const char* piece : {" a", "", " b\xC3", "\xA9 ", " c "}) reader.foundCharacters(piece);
-    reader.didEndElement("comment");
+    reader.didEndElement(XMLElement::comments);
     const EventList events = reader.finish();
     ASSERT_EQ(events.size(), 1U);
     EXPECT_EQ(events[0].comments, "a b\u00E9  c");

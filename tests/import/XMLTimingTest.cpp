@@ -5,7 +5,7 @@
 
 #include <limits>
 
-#include "import/CommonTimelineXMLDelegate.h"
+#include "import/XMLTiming.h"
 #include "support/RowName.h"
 
 namespace clipvane::test {
@@ -21,8 +21,7 @@ struct TimingRow {
 class XMLTiming : public testing::TestWithParam<TimingRow> {};
 
 TEST_P(XMLTiming, IsATimecode) {
-    EXPECT_EQ(CommonTimelineXMLDelegate(GetParam().fps).timing(GetParam().value),
-              GetParam().timecode);
+    EXPECT_EQ(xmlTime(GetParam().value, GetParam().fps).text, GetParam().timecode);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -130,11 +129,16 @@ struct FramesRow {
     double fps = 25;
 };
 
+/// The count that a text was written for is kept, and is the one that the text has.
+TEST_P(XMLTiming, HasTheFramesOfItsText) {
+    const XMLTime time = xmlTime(GetParam().value, GetParam().fps);
+    EXPECT_EQ(xmlFrames(time, GetParam().fps), xmlFrames(time.text, GetParam().fps));
+}
+
 class XMLFrames : public testing::TestWithParam<FramesRow> {};
 
 TEST_P(XMLFrames, AreCounted) {
-    EXPECT_EQ(CommonTimelineXMLDelegate(GetParam().fps).frames(GetParam().value),
-              GetParam().frames);
+    EXPECT_EQ(xmlFrames(GetParam().value, GetParam().fps), GetParam().frames);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -191,8 +195,7 @@ struct TimecodeRow {
 class XMLTimecode : public testing::TestWithParam<TimecodeRow> {};
 
 TEST_P(XMLTimecode, IsWritten) {
-    EXPECT_EQ(CommonTimelineXMLDelegate(GetParam().fps).timecode(GetParam().frames),
-              GetParam().timecode);
+    EXPECT_EQ(xmlTimeOf(GetParam().frames, GetParam().fps).text, GetParam().timecode);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -220,7 +223,7 @@ struct FatalRow {
 class FatalXMLTimingDeathTest : public testing::TestWithParam<FatalRow> {};
 
 TEST_P(FatalXMLTimingDeathTest, StopsTheProgram) {
-    EXPECT_DEATH(CommonTimelineXMLDelegate(GetParam().fps).timing(GetParam().value),
+    EXPECT_DEATH(xmlTime(GetParam().value, GetParam().fps).text,
                  "clipvane: a number cannot be rounded to a 64-bit integer");
 }
 
@@ -242,14 +245,14 @@ INSTANTIATE_TEST_SUITE_P(
     RowName());
 
 TEST(XMLFramesDeathTest, ASumBeyondSixtyFourBits_StopsTheProgram) {
-    const CommonTimelineXMLDelegate reader(25);
-    EXPECT_DEATH(reader.frames("9223372036854775807:0:0:0"), "exceeds 64 bits \\(multiplication");
-    EXPECT_DEATH(reader.frames("153722867280912930:9223372036854775807:0:0"), "addition");
-    EXPECT_DEATH(reader.frames("0:0:9223372036854775807:0"), "multiplication");
-    EXPECT_DEATH(reader.frames("0:0:1:9223372036854775807"), "addition");
-    EXPECT_DEATH(reader.frames("0:0:-1:-9223372036854775808"), "addition");
+    constexpr double fps = 25;
+    EXPECT_DEATH(xmlFrames("9223372036854775807:0:0:0", fps), "exceeds 64 bits \\(multiplication");
+    EXPECT_DEATH(xmlFrames("153722867280912930:9223372036854775807:0:0", fps), "addition");
+    EXPECT_DEATH(xmlFrames("0:0:9223372036854775807:0", fps), "multiplication");
+    EXPECT_DEATH(xmlFrames("0:0:1:9223372036854775807", fps), "addition");
+    EXPECT_DEATH(xmlFrames("0:0:-1:-9223372036854775808", fps), "addition");
     // The time is told before the rate.
-    EXPECT_DEATH(CommonTimelineXMLDelegate(1e30).frames("9223372036854775807:0:0:0"), "exceeds");
+    EXPECT_DEATH(xmlFrames("9223372036854775807:0:0:0", 1e30), "exceeds");
 }
 
 }  // namespace
