@@ -118,6 +118,7 @@ void DocumentCommands::fpsChanged() {
         refreshTexts();
         setStatus(convertedStatus(converted, earlier, *fps));
         syncFPSPopup();
+        refreshDetails();
     } catch (...) {
         tellLackOfMemory(*alert);
         ifMemoryAllows([&] { syncFPSPopup(); });

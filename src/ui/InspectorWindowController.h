@@ -47,7 +47,6 @@ class InspectorWindowController : public DocumentCommands {
     void tableViewSelectionDidChange();
     void showWholeTexts();
     void showEvent(std::optional<std::size_t> row);
-    void refreshDetails();
     void fitScreen();
 
     std::optional<std::filesystem::path> runOpenPanel() override;
@@ -58,6 +57,7 @@ class InspectorWindowController : public DocumentCommands {
     void removeRow(std::size_t row, const std::function<void()>& erase,
                    std::optional<std::size_t> selected) override;
     void refreshTexts() override;
+    void refreshDetails() override;
     void setStatus(const std::string& text) override;
     std::optional<std::string> editedComments() const override;
     std::optional<std::string> selectedFPSTitle() const override;
@@ -77,7 +77,7 @@ class InspectorWindowController : public DocumentCommands {
     FrameRatePopup* fpsPopup;
     CommentsView* commentsView;
     StatusLabel* statusLabel;
-    bool reloading = false;  ///< the table's selection changes on its own
+    bool reloading = false;  ///< the selection changes, and the details follow later
 };
 
 }  // namespace clipvane

@@ -43,7 +43,7 @@ std::optional<std::size_t> InspectorWindowController::selectedRow() const {
 }
 
 void InspectorWindowController::showNewEvents(std::optional<std::size_t> selected) {
-    // The table drops its selection with the rows, and moves it before a row is gone.
+    // The table clears its selection with the rows, and moves it before a row is gone.
     const QScopedValueRollback guard(reloading, true);
     tableModel.allIsNew();
     showEvent(selected);
@@ -67,7 +67,6 @@ void InspectorWindowController::showEvent(std::optional<std::size_t> row) {
 
 void InspectorWindowController::refreshTexts() {
     tableModel.textsChanged();
-    refreshDetails();
 }
 
 void InspectorWindowController::tableViewSelectionDidChange() {
@@ -115,7 +114,7 @@ void InspectorWindowController::writeLog(const std::string& message) {
 void InspectorWindowController::whileBusy(const std::function<void()>& work) {
     QApplication::setOverrideCursor(Qt::WaitCursor);
     const auto restore = qScopeGuard([] { QApplication::restoreOverrideCursor(); });
-    // The cursor, and what a closed panel uncovered, reach the screen before the work begins.
+    // Shows the cursor, and repaints what a closed panel covered, before the work begins.
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     work();
 }

@@ -41,7 +41,7 @@ TEST_F(FrameRateChange, OtherRate_StepByStep) {
     choose("24 fps");
     EXPECT_THAT(commands.calls, ElementsAre("busy", "idle", "texts: 12",
                                             "status: Converted 48 timecodes from 25 fps to 24 fps.",
-                                            "pop-up: 24 fps, Manual"));
+                                            "pop-up: 24 fps, Manual", "details"));
     EXPECT_EQ(commands.selection, 3U);
 }
 
@@ -73,7 +73,7 @@ TEST_F(FrameRateChange, CurrentRate_NothingConvertedButManual) {
     EXPECT_EQ(commands.document().fpsSource, "Manual");
     EXPECT_THAT(commands.calls, ElementsAre("busy", "idle", "texts: 12",
                                             "status: Converted 0 timecodes from 25 fps to 25 fps.",
-                                            "pop-up: 25 fps, Manual"));
+                                            "pop-up: 25 fps, Manual", "details"));
 }
 
 TEST_F(FrameRateChange, RatesWithinATenThousandth_AreTheSame) {

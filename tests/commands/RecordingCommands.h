@@ -55,6 +55,9 @@ class RecordingCommands : public DocumentCommands {
     }
     void refreshTexts() override {
         calls.push_back("texts: " + std::to_string(documentModel.events.size()));
+    }
+    void refreshDetails() override {
+        calls.push_back("details");
         typedText.reset();
     }
     /// What the list and the details show then.

@@ -49,6 +49,7 @@ class CommandLine : public DocumentCommands {
         row = selected;
     }
     void refreshTexts() override {}
+    void refreshDetails() override {}
     void setStatus(const std::string& text) override {
         std::printf("status: %s\n", text.c_str());
         std::fflush(stdout);

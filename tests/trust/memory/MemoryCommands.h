@@ -63,6 +63,7 @@ class MemoryCommands : public DocumentCommands {
         row = selected;
     }
     void refreshTexts() override {}
+    void refreshDetails() override {}
     void setStatus(const std::string& text) override { status.keep(text); }
     std::optional<std::string> editedComments() const override {
         return isTyped ? std::optional(typed) : std::nullopt;

@@ -94,8 +94,10 @@ class DocumentCommands {
     /// document. Then `selected` alone is selected and in the details.
     virtual void removeRow(std::size_t row, const std::function<void()>& erase,
                            std::optional<std::size_t> selected) = 0;
-    /// The same events have other texts, or another rate: shows them in the list and the details.
+    /// The same events have other texts: shows them in the list.
     virtual void refreshTexts() = 0;
+    /// Shows the selected event, or that none is, in the details.
+    virtual void refreshDetails() = 0;
     virtual void setStatus(const std::string& text) = 0;
 
     /// The comments field's text, or nothing when the user has not changed it since it was set.
