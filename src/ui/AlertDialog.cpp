@@ -17,7 +17,6 @@
 namespace clipvane {
 namespace {
 
-constexpr int textWidth = 330;
 constexpr int mostLines = 12;
 
 class SignView : public QWidget {
@@ -34,13 +33,13 @@ class SignView : public QWidget {
     AlertSign sign;
 };
 
-/// The least width at which the text takes no more lines than at `textWidth`: lines of much the
-/// same length, and no word alone on the last.
+/// The least width at which the text takes no more lines than at `alertTextWidth`: lines of much
+/// the same length, and no word alone on the last.
 int balancedWidth(const TextLabel& label) {
-    const int height = label.heightForWidth(textWidth);
-    if (height >= mostLines * label.fontMetrics().lineSpacing()) return textWidth;
+    const int height = label.heightForWidth(alertTextWidth);
+    if (height >= mostLines * label.fontMetrics().lineSpacing()) return alertTextWidth;
     int tooNarrow = 0;
-    int wideEnough = textWidth;
+    int wideEnough = alertTextWidth;
     while (wideEnough - tooNarrow > 1) {
         const int width = (tooNarrow + wideEnough) / 2;
         (label.heightForWidth(width) > height ? tooNarrow : wideEnough) = width;
@@ -51,7 +50,7 @@ int balancedWidth(const TextLabel& label) {
 TextLabel* wrapped(const std::string& text, const QFont& font, const QColor& colour) {
     auto* label = new TextLabel(toQt(text), font, colour);
     label->setMaximumLines(mostLines);
-    label->setFixedSize(balancedWidth(*label), label->heightForWidth(textWidth));
+    label->setFixedSize(balancedWidth(*label), label->heightForWidth(alertTextWidth));
     return label;
 }
 
@@ -77,7 +76,7 @@ AlertDialog::AlertDialog(const Alert& alert, QWidget* parent) : QDialog(parent) 
     layout->addWidget(new SignView(sign), 0, 0, 2, 1, Qt::AlignTop);
     layout->addWidget(wrapped(alert.message, systemFont(15, QFont::Bold), colours::white), 0, 1);
     layout->addWidget(wrapped(alert.information, systemFont(13), colours::text), 1, 1);
-    layout->setColumnMinimumWidth(1, textWidth);
+    layout->setColumnMinimumWidth(1, alertTextWidth);
     layout->setRowMinimumHeight(2, 6);
     layout->addWidget(button, 3, 1, Qt::AlignRight);
     layout->setSizeConstraint(QLayout::SetFixedSize);

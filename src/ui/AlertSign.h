@@ -15,6 +15,7 @@ namespace clipvane {
 inline constexpr int alertSignSize = 40;
 inline constexpr QMargins alertMargins{24, 24, 24, 20};
 inline constexpr int alertButtonWidth = 76;  ///< at least
+inline constexpr int alertTextWidth = 330;
 
 enum class AlertSign { notice, warning };
 

@@ -41,7 +41,7 @@ bool holdsPopupList(const QWidget* widget) {
            qobject_cast<const QComboBox*>(widget->parentWidget()) != nullptr;
 }
 
-/// The edge of a field shows where to type; where that is not possible it steps back.
+/// The edge of a field shows where to type; that of a read-only one is dimmer.
 const QColor& fieldEdge(const QWidget* widget) {
     const auto* editor = qobject_cast<const QPlainTextEdit*>(widget);
     return editor != nullptr && editor->isReadOnly() ? colours::panelEdge : colours::fieldEdge;
@@ -54,7 +54,7 @@ bool isAlertButton(const QWidget* widget) {
 }
 
 /// Makes the toolkit's own question, such as the one before a file is replaced, look like an alert:
-/// the first line in bold, as plain text, for a file's name may look like markup.
+/// the first line in bold, as plain text, since a file's name may look like markup.
 void dress(QMessageBox& box) {
     box.setTextFormat(Qt::PlainText);
     const QString text = box.text();
@@ -65,9 +65,11 @@ void dress(QMessageBox& box) {
     }
     if (auto* rest = box.findChild<QLabel*>("qt_msgbox_informativelabel")) {
         rest->setTextFormat(Qt::PlainText);
+        rest->setMinimumWidth(alertTextWidth);
     }
     if (auto* message = box.findChild<QLabel*>("qt_msgbox_label")) {
         message->setFont(systemFont(15, QFont::Bold));
+        message->setMinimumWidth(alertTextWidth);
     }
     box.layout()->setContentsMargins(alertMargins);
 }

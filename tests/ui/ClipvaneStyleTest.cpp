@@ -48,6 +48,7 @@ TEST(ClipvaneStyle, ToolkitsOwnQuestion_LooksLikeAnAlert) {
         const auto* label = box.findChild<QLabel*>(name);
         ASSERT_NE(label, nullptr) << name;
         EXPECT_EQ(label->textFormat(), Qt::PlainText) << name;
+        EXPECT_GE(label->width(), 330) << name;
     }
     EXPECT_EQ(box.findChild<QLabel*>("qt_msgbox_label")->font().weight(), QFont::Bold);
     for (const auto* button : box.findChildren<QPushButton*>()) {
