@@ -16,7 +16,7 @@ constexpr int toolTipWidth = 420;  ///< of a text that does not fit on one such 
 constexpr int longestWord = 30;    ///< without a place to break, in a tool tip
 constexpr char16_t zeroWidthSpace = 0x200b;
 
-/// The two ends of `text`, `limit` characters in all, none of them half of a pair.
+/// The two ends of `text`, `limit` characters in all. A surrogate pair is not split.
 QString shortened(const QString& text, qsizetype limit) {
     if (text.size() <= limit) return text;
     qsizetype head = limit / 2;
@@ -31,7 +31,7 @@ bool breaksLine(QChar c) {
            c == QChar::LineSeparator || c == QChar::ParagraphSeparator;
 }
 
-/// `text` with places to break in its long words: names of clips have no others.
+/// `text` with places to break in long words: clip names have no blanks.
 QString breakable(const QString& text) {
     QString result;
     int length = 0;  // of the word so far
@@ -55,11 +55,13 @@ QString displayLine(const QString& text) {
 
 QString toolTipText(const QString& text) {
     const QString shown = shortened(text, toolTipLimit);
-    const QString style = "<p style='white-space:pre-wrap'>%1</p>";
     const QSize size = QFontMetrics(QToolTip::font()).size(0, shown);
-    if (size.width() <= toolTipWidth) return style.arg(shown.toHtmlEscaped());
+    if (size.width() <= toolTipWidth) {
+        return "<p style='white-space:pre'>" + shown.toHtmlEscaped() + "</p>";
+    }
     return QString("<table width='%1'><tr><td>").arg(toolTipWidth) +
-           style.arg(breakable(shown).toHtmlEscaped()) + "</td></tr></table>";
+           "<p style='white-space:pre-wrap'>" + breakable(shown).toHtmlEscaped() +
+           "</p></td></tr></table>";
 }
 
 }  // namespace clipvane

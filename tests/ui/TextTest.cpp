@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QToolTip>
+
 namespace clipvane {
 namespace {
 
@@ -36,6 +39,23 @@ TEST(ToolTipText, LongerThanALine_IsALineWideAndCanBreakInNames) {
     const QString name = toolTipText(QString("W").repeated(90));
     EXPECT_EQ(name.count(QChar(0x200b)), 60);
     EXPECT_TRUE(toolTipText(QString::fromUtf8("😀").repeated(200)).isValidUtf16());
+}
+
+TEST(ToolTipText, ShorterThanALine_StaysOnIt) {
+    const QFontMetrics metrics(QToolTip::font());
+    for (const QString& text : {QString("1111:06:44:24 (100000124 frames)"),
+                                QString("Reel ID: A001 of the second unit")}) {
+        QToolTip::showText({20, 20}, toolTipText(text));
+        int seen = 0;
+        for (const QWidget* tip : QApplication::topLevelWidgets()) {
+            if (!tip->inherits("QTipLabel") || !tip->isVisible()) continue;
+            ++seen;
+            EXPECT_GT(tip->width(), metrics.horizontalAdvance(text)) << text.toStdString();
+            EXPECT_LT(tip->height(), 3 * metrics.lineSpacing()) << text.toStdString();
+        }
+        EXPECT_EQ(seen, 1);
+        QToolTip::hideText();
+    }
 }
 
 }  // namespace
