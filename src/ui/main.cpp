@@ -14,7 +14,7 @@ int main() {
     AppLog::write("Process started.");
     prepareToolkit();
 
-    // The toolkit would read options among the arguments; the program has none.
+    // The toolkit would take some arguments for its own options; the program has none.
     int argumentCount = 1;
     char name[] = "clipvane";
     char* arguments[] = {name, nullptr};
@@ -28,5 +28,6 @@ int main() {
     AppLog::write("Main window created before run loop.");
     QMetaObject::invokeMethod(
         &app, [&] { delegate.applicationDidFinishLaunching(); }, Qt::QueuedConnection);
-    return app.exec();
+    // A window that was closed before would not end the loop any more.
+    return mainController.window()->isHidden() ? 0 : app.exec();
 }
