@@ -102,6 +102,8 @@ def leave_and_come_back(desk, main, text):
         wait_for(lambda: active_window() != main, "the window to be iconified")
         xdotool("windowactivate", main)
         desk.await_window("Clipvane")
+        # The manager may still be at it.
+        wait_equal(lambda: content(main), place, "the window's place")
         stays(lambda: content(main) == place, "the window's place")
         # On a screen smaller than the window there is nothing to maximize.
         toggle_maximized(main)

@@ -87,8 +87,16 @@ TEST_F(DetailRowViewTest, ValueWhoseInkFits_KeepsItsLetters) {
 }
 
 TEST_F(DetailRowViewTest, ValueBeyondHelp_LosesItsMiddle) {
-    row.setValue("A001_C001_a_very_long_name_of_a_clip_take_07.mov");
-    EXPECT_TRUE(row.valueLabel->isElided());
+    const auto shown = [this](char first, char middle, char last) {
+        const QString run(20, 'x');
+        row.setValue(QChar(first) + run + QChar(middle) + run + QChar(last));
+        EXPECT_TRUE(row.valueLabel->isElided());
+        return grabbed(*row.valueLabel);
+    };
+    const QImage one = shown('A', 'm', '7');
+    EXPECT_EQ(shown('A', 'W', '7'), one);
+    EXPECT_NE(shown('W', 'm', '7'), one);
+    EXPECT_NE(shown('A', 'm', 'W'), one);
 }
 
 }  // namespace
