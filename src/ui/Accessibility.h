@@ -5,8 +5,8 @@
 
 namespace clipvane {
 
-/// Tells assistive technology what the toolkit would tell wrongly or not at all. Call once the
-/// application object is there.
+/// Tells assistive technology what the toolkit would tell wrongly or not at all. Call it
+/// once the application object is made.
 void installAccessibility();
 
 }  // namespace clipvane

@@ -8,8 +8,8 @@
 
 namespace clipvane {
 
-/// The program's diagnostic log: a text file to which start-up and the opening of a timeline append
-/// a line each, and which nothing reads.
+/// The program's diagnostic log: a text file. Starting up and opening a
+/// timeline add lines to it, and nothing reads them.
 class AppLog {
   public:
     AppLog() = delete;

@@ -7,8 +7,8 @@
 
 namespace clipvane {
 
-/// A weather vane's arrow over the clips of a timeline: the pictures of packaging/icons, which the
-/// program carries within itself.
+/// A weather vane's arrow over the clips of a timeline: the pictures of packaging/icons, built into
+/// the program.
 QIcon applicationIcon();
 
 }  // namespace clipvane

@@ -26,7 +26,7 @@ QString withLineFeeds(QString text) {
     return std::move(text.replace(QChar::ParagraphSeparator, QChar::LineFeed));
 }
 
-/// Whether a line may break at `c`; the no-break blanks are blanks, too.
+/// Whether a line may break at `c`: at a blank, unless it is a no-break one.
 bool endsWord(QChar c) {
     return c.isSpace() && c.decompositionTag() != QChar::NoBreak;
 }
@@ -87,8 +87,8 @@ void CommentsView::setText(const QString& text) {
     shownRevision = document()->revision();
 }
 
-/// A word of many lines costs the toolkit the square of its length to wrap at words, minutes for a
-/// megabyte. From the first such word on, lines break anywhere, until other comments are shown.
+/// Wrapping a word of many lines takes the toolkit time with the square of its length, minutes for
+/// a megabyte. After the first such word lines break anywhere, until another comment is shown.
 void CommentsView::wrapFor(const QString& text) {
     constexpr qsizetype limit = 4000;
     if (wordWrapMode() == QTextOption::WrapAnywhere || longestWord(text) <= limit) return;
@@ -104,7 +104,7 @@ std::string CommentsView::comments() const {
 }
 
 void CommentsView::keyPressEvent(QKeyEvent* event) {
-    // The toolkit would put in a line separator, which no timeline knows.
+    // The toolkit would insert a line separator, which no timeline uses.
     if (event->matches(QKeySequence::InsertLineSeparator) && !isReadOnly()) {
         textCursor().insertBlock();
         ensureCursorVisible();
@@ -114,7 +114,7 @@ void CommentsView::keyPressEvent(QKeyEvent* event) {
     wrapFor(textCursor().block().text());
 }
 
-/// Composing moves the document's revision before there is any change.
+/// Composing raises the document's revision although no text has changed yet.
 void CommentsView::inputMethodEvent(QInputMethodEvent* event) {
     const bool changesText = !event->commitString().isEmpty() || event->replacementLength() != 0 ||
                              textCursor().hasSelection();
@@ -133,7 +133,7 @@ void CommentsView::endComposing() {
     const auto composed = [this] { return textCursor().block().layout()->preeditAreaText(); };
     if (composed().isEmpty()) return;
     QGuiApplication::inputMethod()->commit();
-    // Not every input method does it, and what one leaves would be lost with the next event shown.
+    // Not every input method does so, and the text would be lost when another event is shown.
     if (composed().isEmpty()) return;
     QInputMethodEvent typed;
     typed.setCommitString(composed());

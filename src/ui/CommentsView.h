@@ -17,10 +17,10 @@ class CommentsView : public QPlainTextEdit {
   public:
     explicit CommentsView(QWidget* parent = nullptr);
 
-    /// Shows the comment of the event `id` for editing. Shown already, it stays as it is, with all
-    /// that can be undone; another event's starts afresh.
+    /// Shows the comment of the event `id` for editing. If it is shown already, its
+    /// text and undo steps stay; the comment of another event starts with none.
     void showComments(const UUID& id, std::string_view comments);
-    /// Shows nothing, not to be edited, and says how to come to edit something.
+    /// Shows no comment, cannot be edited, and says what to select first.
     void showNothing();
 
     /// True once the user has changed the text since it was shown.
@@ -45,7 +45,7 @@ class CommentsView : public QPlainTextEdit {
 
     std::optional<UUID> shownEvent;
     int shownRevision = 0;
-    bool onlyComposing = false;  ///< an input method changes what is seen of an untouched text
+    bool onlyComposing = false;  ///< composing in a text that was not edited
 };
 
 }  // namespace clipvane

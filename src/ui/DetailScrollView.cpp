@@ -16,7 +16,8 @@
 namespace clipvane {
 namespace {
 
-/// Besides typing, which the editor tells itself. A click puts the caret where the user sees it.
+/// Typing is not among them: the editor has a signal for it. A click puts the caret where the user
+/// sees it.
 bool movesCaret(const QEvent& event) {
     if (event.type() == QEvent::FocusIn) {
         return static_cast<const QFocusEvent&>(event).reason() != Qt::MouseFocusReason;
@@ -59,7 +60,7 @@ void DetailScrollView::resizeEvent(QResizeEvent* event) {
 
 bool DetailScrollView::eventFilter(QObject* watched, QEvent* event) {
     if (watched == comments->textView && movesCaret(*event)) {
-        // The editor has yet to serve it.
+        // Only after the editor has handled it.
         QTimer::singleShot(0, this, &DetailScrollView::showCaret);
     }
     return QScrollArea::eventFilter(watched, event);
@@ -69,13 +70,13 @@ void DetailScrollView::showCaret() {
     CommentsView& editor = *comments->textView;
     if (window()->focusWidget() != &editor) return;
     editor.ensureCursorVisible();
-    // That looks for the caret where it was before the text that is being composed.
+    // That takes the caret to be in front of the text that is being composed.
     QScrollBar& lines = *editor.verticalScrollBar();
     while (editor.cursorRect().bottom() >= editor.viewport()->height() &&
            lines.value() < lines.maximum()) {
         lines.setValue(lines.value() + 1);
     }
-    // Under the pointer nothing moves more than it must: a second click means the same place.
+    // While a button is down nothing moves more than it must: a second click may follow.
     if (QGuiApplication::mouseButtons() == Qt::NoButton) showRows(comments->geometry());
     const QRect caret = editor.cursorRect();
     showRows({editor.viewport()->mapTo(widget(), caret.topLeft()), caret.size()});

@@ -12,9 +12,9 @@ class CommentsBlockView;
 
 /// Scrolls the detail stack up and down, and keeps it as wide as its own view allows.
 ///
-/// Where the window is too low for the stack, the comments and their caret come into view when the
-/// keyboard goes there, with each thing typed, and when the view's size changes. Otherwise the view
-/// stays where the user has it; Alt with Page Up and Page Down moves it without a mouse.
+/// Where the window is too low for the stack, the comments and their caret come into view when they
+/// get the keyboard focus, with each key typed, and when the view is resized. Otherwise the view
+/// stays where the user put it; Alt with Page Up and Page Down scrolls it without a mouse.
 class DetailScrollView : public QScrollArea {
   public:
     /// `comments` is part of `detailStack`.

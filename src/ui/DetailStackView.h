@@ -14,7 +14,7 @@ class CommentsBlockView;
 class DetailRowView;
 class TextLabel;
 
-/// The content of the detail panel: the title, the rows of the moment, the comments block.
+/// The content of the detail panel: the title, the rows, the comments block.
 class DetailStackView : public QWidget {
   public:
     TextLabel* const detailTitle;
@@ -23,9 +23,9 @@ class DetailStackView : public QWidget {
 
     void setCommentsBlock(CommentsBlockView* block);
     void setTitle(const QString& text);
-    /// Puts `rows` between the title and the comments block, in place of those before.
+    /// Shows `rows` between the title and the comments block, instead of the earlier ones.
     void insertDetailRows(const std::vector<DetailRow>& rows);
-    /// The title and the rows that are not shown whole, a line each.
+    /// The title and the rows that are cut short on the screen, in full, one per line.
     QString elidedTexts() const;
 
   protected:

@@ -18,7 +18,7 @@ namespace clipvane {
 
 namespace {
 
-/// The quietest of the fields' colours would be hard to read on the blue of a selected row.
+/// The dimmest of the fields' colours would be hard to read on the blue of a selected row.
 QColor textColour(const QModelIndex& index, bool selected) {
     const auto colour = index.data(Qt::ForegroundRole).value<QColor>();
     return selected && colour == colours::secondaryText ? colours::secondaryTextOnSelection

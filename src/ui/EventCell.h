@@ -7,8 +7,8 @@
 
 namespace clipvane {
 
-/// Paints one field of an event in its column's colour, a long text without its middle. Shows the
-/// whole text as a tool tip where it does not fit.
+/// Paints one field of an event in its column's colour. A text that does not fit loses its
+/// middle, and its tool tip shows the whole.
 class EventCell : public QStyledItemDelegate {
   public:
     static constexpr int padding = 8;  ///< in logical pixels, on the left and on the right

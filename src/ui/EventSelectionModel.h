@@ -9,8 +9,8 @@
 
 namespace clipvane {
 
-/// The list's selection. Calls `beforeChange` while the earlier one still holds, whoever changes
-/// it: assistive technology selects a row without moving the focus.
+/// The list's selection. Calls `beforeChange` before each change, whoever makes it: assistive
+/// technology can select a row without moving the focus.
 class EventSelectionModel : public QItemSelectionModel {
   public:
     EventSelectionModel(QAbstractItemModel* model, QObject* parent,

@@ -10,8 +10,8 @@
 
 namespace clipvane {
 
-/// The document's remaining events as rows, their fields as the columns of `eventColumns`. Keeps
-/// nothing for a row.
+/// The document's remaining events as rows, their fields as the columns of `eventColumns`. Stores
+/// nothing per row.
 class EventTableModel : public QAbstractTableModel {
   public:
     /// The role of an event's marked state, a boolean.
@@ -19,13 +19,13 @@ class EventTableModel : public QAbstractTableModel {
 
     explicit EventTableModel(const TimelineDocument& document) : document(document) {}
 
-    // What a command did to the document's events, as the views must hear it.
+    // What a command did to the document's events. The views have to be told.
 
-    /// They are others.
+    /// All events are new.
     void allIsNew();
-    /// `row` goes by calling `erase`, which takes its event out of the document and cannot fail.
+    /// Removes `row`: calls `erase`, which takes its event out of the document and cannot fail.
     void rowGoes(int row, const std::function<void()>& erase);
-    /// They are the same, with other texts.
+    /// The same events have other texts.
     void textsChanged();
 
     int rowCount(const QModelIndex& parent = {}) const override;

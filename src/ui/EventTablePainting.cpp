@@ -29,7 +29,7 @@ void EventTableView::paintRow(QPainter& painter, int row, const QRect& dirty) co
     }
 }
 
-/// Where Left and Right have gone to, while the keyboard is used.
+/// The cell that Left and Right have gone to, while the keyboard is used.
 void EventTableView::paintCurrentCell(QPainter& painter) const {
     constexpr int radius = 3;
     const QModelIndex index = currentIndex();
@@ -43,7 +43,7 @@ void EventTableView::paintEvent(QPaintEvent* event) {
     QPainter painter(viewport());
     const QRect dirty = event->rect();
     painter.fillRect(dirty, colours::table);
-    // An empty list is covered by a text, which lines would run through.
+    // Lines would run through the text that covers an empty list.
     if (rowCount() == 0) return;
     for (int row = firstRowIn(dirty); row <= lastRowIn(dirty); ++row) paintRow(painter, row, dirty);
     for (int column = 0; column < model()->columnCount(); ++column) {

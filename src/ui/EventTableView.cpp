@@ -132,7 +132,7 @@ void EventTableView::scrollTo(const QModelIndex& index, ScrollHint hint) {
     }
 }
 
-/// Scrolling to a row leaves the columns where the user has them; only moving among them does not.
+/// Only moving from column to column scrolls sideways; moving from row to row does not.
 void EventTableView::showColumn(int column) {
     const int left = horizontalHeader()->sectionPosition(column);
     const int right = left + columnWidth(column);
@@ -141,8 +141,8 @@ void EventTableView::showColumn(int column) {
     if (left < bar.value()) bar.setValue(left);
 }
 
-/// The column one `step` from `column`, or from the nearest that is in view. Shows it, and with it
-/// the next one that is hidden on that side: each press brings something new.
+/// The column one `step` from `column`, or from the nearest that is in view. Scrolls to
+/// it, and on to the next column that is hidden on that side: each press shows something new.
 int EventTableView::stepColumn(int column, int step) {
     const QHeaderView& header = *horizontalHeader();
     const int end = model()->columnCount() - 1;
@@ -308,7 +308,7 @@ void EventTableView::focusInEvent(QFocusEvent* event) {
 
 void EventTableView::focusOutEvent(QFocusEvent* event) {
     QTableView::focusOutEvent(event);
-    // Another window in front only interrupts: the focus comes back.
+    // When another window comes to the front, the focus will be back.
     const Qt::FocusReason reason = event->reason();
     if (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason) return;
     if (focusFrame != nullptr) focusFrame->setWidget(nullptr);

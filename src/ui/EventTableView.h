@@ -13,8 +13,8 @@ namespace clipvane {
 
 /// The event list. Selects whole rows, one at a time.
 ///
-/// All rows are alike, so their places are reckoned and not kept: a list of a million events opens
-/// as fast as one of ten. The toolkit's own vertical header would remember every row's height.
+/// All rows have the same height, so places are computed, not stored: a list of a million events
+/// opens as fast as one of ten. The toolkit's own vertical header would store every row's height.
 class EventTableView : public QTableView {
   public:
     static constexpr int rowHeight = 48;  ///< in logical pixels: 44, and 4 between two rows
@@ -23,13 +23,13 @@ class EventTableView : public QTableView {
     explicit EventTableView(QWidget* parent = nullptr);
 
     void setModel(QAbstractItemModel* model) override;
-    /// What lies behind the cells of `row`; of a row that does not exist, nothing marked.
+    /// The background of `row`; unmarked if there is no such row.
     HighlightRowView rowViewForRow(int row) const;
 
     QRect visualRect(const QModelIndex& index) const override;
     QModelIndex indexAt(const QPoint& point) const override;
     void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
-    /// Typing in the list searches nothing.
+    /// Typing in the list does not search it.
     void keyboardSearch(const QString&) override {}
 
   protected:
@@ -60,12 +60,12 @@ class EventTableView : public QTableView {
     void paintRow(QPainter& painter, int row, const QRect& dirty) const;
     void paintCurrentCell(QPainter& painter) const;
 
-    /// Shows as much of the header as there is room for. The header is as wide as all its columns
-    /// and moves beneath, for assistive technology takes its place for that of the first column.
+    /// Clips the header, which is as wide as all its columns and moves when the list scrolls:
+    /// assistive technology takes the left edge of the header for that of the first column.
     QWidget* headerStrip;
     QFocusFrame* focusFrame = nullptr;  ///< around the list and its header
     QStringListModel noRows;            ///< the vertical header's model
-    int chosenLastWidth = 0;            ///< that the user gave the last column
+    int chosenLastWidth = 0;            ///< given to the last column by the user
     bool fitting = false;
 };
 

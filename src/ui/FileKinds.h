@@ -7,9 +7,9 @@
 
 namespace clipvane {
 
-/// What the toolkit's file panel says of each file. It looks at names alone: the toolkit's own
-/// provider opens every file whose extension it does not know, which is slow in a large folder and
-/// never ends at a pipe.
+/// The icon and the kind that the toolkit's file panel shows for a file. The name alone decides:
+/// the toolkit's own provider opens every file with an unknown extension, which is slow in a large
+/// folder and hangs on a pipe.
 class FileKinds : public QFileIconProvider {
   public:
     using QFileIconProvider::icon;

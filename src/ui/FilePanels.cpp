@@ -17,7 +17,7 @@
 namespace clipvane {
 namespace {
 
-/// Extensions in any case, spelled out: not every kind of dialog ignores case by itself.
+/// Extensions in upper or lower case: not every dialog ignores case by itself.
 constexpr const char* timelineFilter =
     "EDL, TXT, XML, FCPXML and XMEML timelines (*.[eE][dD][lL] *.[tT][xX][tT] *.[xX][mM][lL] "
     "*.[fF][cC][pP][xX][mM][lL] "
@@ -66,7 +66,7 @@ std::optional<std::filesystem::path> FilePanels::run(QFileDialog& panel) {
     panel.setIconProvider(&kinds);
     dress(panel);
     const bool accepted = panel.exec() == QDialog::Accepted;
-    // A panel and its question that go at once leave some window managers with no active window.
+    // When a panel and its question close together, some window managers activate no window.
     parent->activateWindow();
     if (!accepted || panel.selectedFiles().isEmpty()) return std::nullopt;
     const QString file = panel.selectedFiles().first();

@@ -16,7 +16,7 @@ class QWidget;
 namespace clipvane {
 
 /// The modal panels that ask for a file. Both start in the folder that was used last in this run;
-/// at first in the working directory, or at home if that is the root of all folders.
+/// at first in the working directory, or in the home folder if that is `/`.
 class FilePanels {
   public:
     explicit FilePanels(QWidget* parent) : parent(parent) {}

@@ -10,8 +10,9 @@
 
 namespace clipvane {
 
-/// `rect` as the toolkit has it: in whole pixels, from the top left corner of an area `outerHeight`
-/// high. The edges are rounded, not the sizes, so that a margin is the same wherever it lies.
+/// `rect` as the toolkit wants it: in whole pixels, from the top left corner of an area
+/// `outerHeight` high. The edges are rounded, not the sizes, so that a margin is the same wherever
+/// it lies.
 inline QRect flipped(const Rect& rect, double outerHeight) {
     const auto edge = [](double value) { return static_cast<int>(std::round(value)); };
     const int left = edge(rect.x);

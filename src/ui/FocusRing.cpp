@@ -11,7 +11,7 @@
 namespace clipvane {
 namespace {
 
-/// Held down for a click as often as for a key.
+/// Also held down while clicking.
 bool isModifier(int key) {
     return key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt ||
            key == Qt::Key_AltGr || key == Qt::Key_Meta;
@@ -32,7 +32,7 @@ bool FocusRing::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::TouchBegin:
             show(false);
             break;
-        case QEvent::Show:  // which has just cleared the mark
+        case QEvent::Show:  // which has just cleared the flag
             if (auto* widget = qobject_cast<QWidget*>(watched); widget && widget->isWindow()) {
                 widget->setAttribute(Qt::WA_KeyboardFocusChange, shown);
             }
@@ -50,7 +50,7 @@ void FocusRing::show(bool now) {
         window->setAttribute(Qt::WA_KeyboardFocusChange, shown);
         window->update();
     }
-    // What scrolls has an opaque surface of its own, which that leaves out.
+    // That leaves out what scrolls, which has an opaque surface of its own.
     if (auto* area = qobject_cast<QAbstractScrollArea*>(QApplication::focusWidget())) {
         area->viewport()->update();
     }

@@ -9,9 +9,9 @@ class QApplication;
 
 namespace clipvane {
 
-/// Decides when the ring around what has the keyboard is shown: while the keyboard was used last,
-/// or nothing yet; a click hides it. Tells the style by the toolkit's own mark on each window.
-/// Lives with the application.
+/// Decides when the control with the keyboard focus shows its ring: from the start and after a key,
+/// but not after a click. Tells the style through the toolkit's own flag on each window. Owned by
+/// the application.
 class FocusRing : public QObject {
   public:
     explicit FocusRing(QApplication& application);

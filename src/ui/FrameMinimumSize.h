@@ -11,10 +11,10 @@ class QWidget;
 
 namespace clipvane {
 
-/// Keeps a window from becoming smaller than a size that counts its frame, which is known only once
-/// the window is on the screen. The largest frame counts: a window that is being shown again has
-/// none for a moment, and a maximized one a thinner one, but neither may grow what the user left at
-/// its smallest. Lives with the window.
+/// A window's least size, frame included. The frame is known only once the window is on the screen.
+/// The largest one seen counts: a window that is shown again has none for a moment, and a maximized
+/// window has a thinner one, and neither may change the size in which the user left it. Owned by
+/// the window.
 class FrameMinimumSize : public QObject {
   public:
     FrameMinimumSize(QWidget* window, const QSize& minimum);

@@ -53,8 +53,8 @@ FrameRatePopup::FrameRatePopup(QWidget* parent) : QComboBox(parent) {
     view()->installEventFilter(this);
 }
 
-/// The closed list, which assistive technology reads as well, has the shown entry selected,
-/// whatever was looked at while it was open.
+/// Assistive technology reads the closed list, too. Its selected entry has to be the one that the
+/// pop-up shows.
 void FrameRatePopup::selectShown() {
     view()->selectionModel()->select(model()->index(currentIndex(), modelColumn()),
                                      QItemSelectionModel::ClearAndSelect);

@@ -7,14 +7,14 @@
 
 namespace clipvane {
 
-/// The pop-up of the frame rates. Choosing one converts the whole list and loses frames, so that
-/// nothing chooses while the list is closed: neither the wheel nor a key.
+/// The pop-up of the frame rates. Choosing one converts the whole list and can lose frames, so
+/// neither the wheel nor a key chooses while the list is closed.
 class FrameRatePopup : public QComboBox {
   public:
     /// Holds the standard rates.
     explicit FrameRatePopup(QWidget* parent = nullptr);
 
-    /// Shows `fps`, as one more entry at the end if there is none with its title.
+    /// Shows `fps`. If it is not among the entries, it is added at the end.
     void showRate(double fps);
 
   protected:

@@ -62,7 +62,7 @@ struct DetailRowLayout {
 };
 DetailRowLayout detailRowLayout(double width);
 
-inline constexpr double commentsBlockHeight = 302;  ///< that the block would like to have
+inline constexpr double commentsBlockHeight = 302;  ///< that the block prefers
 
 struct CommentsBlockLayout {
     Rect title;

@@ -72,7 +72,7 @@ void HelpWindow::centre(const QRect& area, const QMargins& frame) {
 
 void HelpWindow::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
-    // Not every window manager heeds that the window is not to be minimized.
+    // Some window managers minimize the window although it has no button for it.
     if (event->type() == QEvent::WindowStateChange && isMinimized()) {
         setWindowState(windowState() & ~Qt::WindowMinimized);
     }

@@ -13,7 +13,7 @@ class HelpWindow : public QMainWindow {
   public:
     HelpWindow();
 
-    /// Puts the window, with the `frame` that it will get, into the middle of `area`.
+    /// Centres the window, with the `frame` that it will get, in `area`.
     void centre(const QRect& area, const QMargins& frame);
 
   protected:

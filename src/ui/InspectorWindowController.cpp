@@ -59,7 +59,7 @@ void InspectorWindowController::buildWindow() {
     rootView->status = statusLabel;
     rootView->leftPanel = makeEventPanel();
     rootView->rightPanel = makeDetailPanel();
-    // In this order assistive technology reads them.
+    // Assistive technology reads them in this order.
     for (QWidget* region :
          {rootView->toolbar, rootView->leftPanel, rootView->rightPanel, rootView->status}) {
         region->setParent(rootView);
@@ -92,7 +92,7 @@ PanelView* InspectorWindowController::makeDetailPanel() {
     auto* comments = new CommentsBlockView(commentsView);
     detailStack->setCommentsBlock(comments);
     auto* scrollView = new DetailScrollView(detailStack, comments);
-    // The scroll bar stands in the panel's margin: the whole content width is the stack's.
+    // The scroll bar stands in the panel's margin, so the stack gets the whole content width.
     const int bar = scrollView->verticalScrollBar()->sizeHint().width();
     auto* wholeTexts = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_F1), detailStack);
     QObject::connect(wholeTexts, &QShortcut::activated, detailStack, [this] { showWholeTexts(); });
@@ -109,7 +109,7 @@ void InspectorWindowController::showWholeTexts() {
 
 QWidget* InspectorWindowController::makeToolbar() {
     syncFPSPopup();
-    // A click leaves the focus in the comments, and there what is being composed.
+    // A click on a button leaves the focus, and what is being composed, in the comments.
     const auto onceComposed = [this](void (InspectorWindowController::*command)()) {
         return [this, command] {
             commentsView->endComposing();

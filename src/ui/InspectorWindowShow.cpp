@@ -20,7 +20,7 @@ QMargins frameOf(const QWidget& window) {
     return window.windowHandle() ? window.windowHandle()->frameMargins() : QMargins();
 }
 
-/// Only what the window system says is listened to: no click is served before its time.
+/// Handles events of the window system alone: it is too early for clicks and keys.
 void waitUntilActive(const QWidget& window) {
     QElapsedTimer waited;
     waited.start();
@@ -43,7 +43,8 @@ void InspectorWindowController::showWindow() {
     fitScreen();
 }
 
-/// On a screen smaller than the window the frame fits what is free, as far as its minimum allows.
+/// On a small screen the window, frame included, fits into the free area, unless that is less than
+/// its least size.
 void InspectorWindowController::fitScreen() {
     const QSize room = mainWindow.screen()->availableGeometry().size();
     const QSize fitting = contentSize.boundedTo(room.shrunkBy(frameOf(mainWindow)));
@@ -53,7 +54,7 @@ void InspectorWindowController::fitScreen() {
 void InspectorWindowController::showHelp() {
     if (!helpWindow) {
         helpWindow = std::make_unique<HelpWindow>();
-        // Both windows get the same frame, but only one has it yet.
+        // The help window will get the same frame, but has none yet.
         helpWindow->centre(mainWindow.screen()->availableGeometry(), frameOf(mainWindow));
     }
     helpWindow->show();

@@ -14,8 +14,8 @@ class PanelView : public QWidget {
   public:
     explicit PanelView(const QString& title, QWidget* parent = nullptr);
 
-    /// Adds `view` above the content there is; it fills the panel inside the box's margins but for
-    /// `margins` of its own.
+    /// Adds `view` on top of the content so far. It fills the panel inside the box's margins, less
+    /// its own `margins`.
     void addContent(QWidget* view, const QMargins& margins = {});
     /// The place inside the margins, below the title.
     QRect contentRect() const;

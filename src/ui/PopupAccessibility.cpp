@@ -10,7 +10,7 @@
 namespace clipvane {
 namespace {
 
-/// The chosen entry, to be read only: choosing has its own way, through the list.
+/// The chosen entry is read-only here: to choose, one opens the list.
 class AccessiblePopup : public QAccessibleWidget,
                         public QAccessibleTextInterface,
                         public QAccessibleValueInterface {

@@ -8,9 +8,9 @@ class QComboBox;
 
 namespace clipvane {
 
-/// A pop-up as assistive technology meets it: under its own name or its label's, where the toolkit
-/// would name it after the chosen entry. That entry is its text; its number, if the entry's data is
-/// one, is its value.
+/// A pop-up for assistive technology: it has its own name or its label's, where the toolkit would
+/// name it after the chosen entry. The entry is its text, and the number in the entry's data, if
+/// there is one, its value.
 QAccessibleInterface* accessiblePopup(QComboBox* popup);
 
 }  // namespace clipvane

@@ -36,7 +36,7 @@ void prepareToolkit() {
     qInstallMessageHandler(reportFatal);
     qunsetenv("QT_STYLE_OVERRIDE");
     QApplication::setDesktopSettingsAware(false);
-    // The toolkit's file dialog keeps settings, which have to go nowhere.
+    // The toolkit's file dialog stores settings; this sends them nowhere.
     for (const auto format : {QSettings::NativeFormat, QSettings::IniFormat}) {
         QSettings::setPath(format, QSettings::UserScope, "/dev/null");
     }

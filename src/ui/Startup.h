@@ -7,14 +7,14 @@ class QApplication;
 
 namespace clipvane {
 
-// What has to be settled before and after the application object is made.
+// What has to be set up before and after the application object is made.
 
-/// Turns the signals off that would end the program where a write fails: a full pipe, a limit on
-/// the size of files.
+/// Ignores the signals that would end the program when a write fails: to a closed pipe, or beyond a
+/// limit on the size of files.
 void ignoreWriteSignals();
 
-/// Keeps the toolkit from reading the desktop's colours, from keeping settings, and from talking
-/// on the standard streams. Before the application object.
+/// Keeps the toolkit from reading the desktop's colours, from storing settings, and from writing
+/// to the standard streams. Call it before the application object is made.
 void prepareToolkit();
 
 /// Gives the program its name, its look and its fonts.

@@ -12,13 +12,13 @@ namespace clipvane {
 
 StatusLabel::StatusLabel(const QString& text, QWidget* parent)
     : TextLabel({}, systemFont(13), colours::secondaryText, parent) {
-    // Told of a text any sooner, assistive technology would take this for a common label for good.
+    // With a text set any sooner, assistive technology would take this for an ordinary label.
     setText(text);
 }
 
 void StatusLabel::showStatus(const QString& text) {
     setText(text);  // which tells the new name
-    // A screen reader says a notification that comes to show, but none that changes.
+    // Screen readers speak a notification when it appears, not when it changes.
     QAccessibleEvent shown(this, QAccessible::ObjectShow);
     QAccessible::updateAccessibility(&shown);
 }

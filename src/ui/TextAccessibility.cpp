@@ -60,7 +60,7 @@ class AccessibleText : public QAccessibleWidget,
         int begin = 0;
         int past = 0;
         textAtOffset(offset, type, &begin, &past);
-        for (int next = past; next < characterCount(); ++next) {  // over what lies between two
+        for (int next = past; next < characterCount(); ++next) {  // skips what lies between two
             textAtOffset(next, type, &begin, &past);
             if (begin >= next) return part({begin, past}, start, end);
         }
@@ -78,7 +78,7 @@ class AccessibleText : public QAccessibleWidget,
         if (offset < 0 || offset > characterCount()) return {};
         QRect place = view->cursorRect(cursorAt(offset));
         const QRect next = view->cursorRect(cursorAt(offset + 1));
-        // The last character of a line has its successor on the next one.
+        // The character after the last one of a line stands on the next line.
         place.setWidth(next.top() == place.top() && next.left() > place.left()
                            ? next.left() - place.left()
                            : view->fontMetrics().horizontalAdvance(text(offset, offset + 1)));

@@ -8,8 +8,8 @@ class QPlainTextEdit;
 
 namespace clipvane {
 
-/// A plain text of several lines as assistive technology meets it. The toolkit's own would place
-/// the characters of all lines on the first, where no magnifier finds the caret.
+/// A plain-text editor for assistive technology. The toolkit's own version reports the characters
+/// of all lines as if they stood on the first, where no magnifier finds the caret.
 QAccessibleInterface* accessibleText(QPlainTextEdit* view);
 
 }  // namespace clipvane

@@ -18,7 +18,7 @@ namespace {
 constexpr int spacing = 8;
 constexpr int fpsSpacing = 12;
 
-/// A click leaves the focus where it is, so that the list can be walked on by keyboard.
+/// A click leaves the focus where it is, so that the arrow keys go on working in the list.
 class ToolbarButton : public QPushButton {
   public:
     explicit ToolbarButton(const QString& title) : QPushButton(title) {

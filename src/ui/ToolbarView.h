@@ -20,8 +20,8 @@ struct ToolbarActions {
     std::function<void()> showHelp;
 };
 
-/// The strip at the top of the main window: the name, and the controls at the right edge. Narrow,
-/// it gives up the room between them first.
+/// The strip at the top of the main window: the name, and the controls at the right edge. When it
+/// becomes narrow, the space between them shrinks first.
 class ToolbarView : public QWidget {
   public:
     ToolbarView(const ToolbarActions& actions, FrameRatePopup* fpsPopup, QWidget* parent = nullptr);
