@@ -48,11 +48,11 @@ class CommonTimelineXMLDelegate {
     bool awaitsCharacters() const { return openFields > 0; }
     void didEndElement(XMLElement element);
 
-    /// There is nothing more to come: the events, in the order in which they began.
+    /// Ends the document and gives the events, in the order in which they began.
     EventList finish();
 
-    /// What all this has cost so far, in bytes of text handled again beyond those that the parser
-    /// handed over. A hostile document can make it grow with the square of its size.
+    /// The work done so far, in bytes of text that were copied or read again after the parser had
+    /// handed them over. A hostile document can make it grow with the square of its size.
     std::size_t effort = 0;
 
   private:
@@ -67,8 +67,8 @@ class CommonTimelineXMLDelegate {
     XMLTime end(const XMLTime& start, std::string_view duration) const;
 
     double fps;
-    /// Display names by asset id. A tree: the ids that fall together in a hash table can be
-    /// guessed.
+    /// Display names by asset id. A tree, because a hostile document can choose ids that collide in
+    /// a hash table.
     std::map<std::string, std::string, std::less<>> assetNames;
     std::string currentText;  ///< character data since the last element start, if it is awaited
     std::optional<PendingXMLEvent> event;  ///< that has begun, and has not ended

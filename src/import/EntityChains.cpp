@@ -36,8 +36,8 @@ bool EntityChains::declare(std::string_view name, std::string_view text) {
         ++stepCount;
     });
 
-    // Those that named it before it was declared have longer chains now. It is not raised again by
-    // itself: nobody follows a circle twice.
+    // The entities that named it before it was declared have longer chains now. It does not raise
+    // itself again: a circle is followed once.
     std::vector<const Entity*> raised{&entity};
     while (!raised.empty()) {
         const Entity& next = *raised.back();

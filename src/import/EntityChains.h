@@ -12,20 +12,21 @@
 
 namespace clipvane {
 
-/// How long the chains are in which the entities of an XML document name one another. A parser
-/// follows a chain by calling itself, so that its length is to be known before the first use.
+/// The lengths of the chains in which the entities of an XML document name one another. A parser
+/// follows a chain by calling itself, so a chain's length must be known before its first use.
 class EntityChains {
   public:
-    /// `most`: entities that may each name the next. The last one, which names none, comes beyond.
+    /// `most`: how many entities in a chain may name the next one. The last of a chain names none
+    /// and is not counted.
     explicit EntityChains(std::size_t most) : most(most) {}
 
-    /// Takes in the declaration of the entity `name`. `text` is what it stands for. Entities may be
-    /// declared before those that they name. False when there is a chain longer than `most` now;
-    /// then there is no use in going on. Entities in a circle are a chain, or too long a one.
+    /// Adds the declaration of the entity `name`, which stands for `text`. An entity may be
+    /// declared before those that it names. False when a chain is now longer than `most`; then
+    /// reading should stop. Entities in a circle count as a chain, or as one that is too long.
     /// Throws when memory runs out.
     bool declare(std::string_view name, std::string_view text);
 
-    /// The steps that all this has taken.
+    /// The steps taken so far.
     std::size_t steps() const { return stepCount; }
 
   private:
@@ -37,7 +38,7 @@ class EntityChains {
     Entity& called(std::string_view name);
 
     std::size_t most;
-    /// A tree: the names that fall together in a hash table can be guessed.
+    /// A tree, because a hostile document can choose names that collide in a hash table.
     std::map<std::string, Entity, std::less<>> entities;
     std::size_t stepCount = 0;
 };

@@ -9,7 +9,7 @@
 namespace clipvane {
 namespace {
 
-// Function objects, which the scanning loop can take in whole.
+// Function objects, so that the compiler can inline them in the scanning loop.
 constexpr auto whiteSpace = [](char32_t c) { return isWhiteSpace(c); };
 constexpr auto columnCharacter = [](char32_t c) { return !isWhiteSpace(c); };
 constexpr auto digit = [](char32_t c) { return isDecimalDigit(c); };
@@ -42,7 +42,7 @@ void takeDuration(std::string_view& rest) {
     if (!takeWhile(after, digit).empty() && takeSeparator(after)) rest = after;
 }
 
-/// Most lines that are no event line tell it by their first character.
+/// The first character of most other lines shows that they are no event lines.
 bool beginsOtherwise(std::string_view line) {
     if (line.empty()) return true;
     const auto first = static_cast<unsigned char>(line.front());

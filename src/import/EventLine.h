@@ -28,7 +28,7 @@ struct EventLine {
 /// one. Digits and white space are Unicode's. Columns may have any length.
 std::optional<EventLine> matchEventLine(std::string_view line);
 
-// What that tries in turn.
+// The two ways that it tries, one after the other.
 
 /// The straight way, for lines as nearly all are written: columns of graphic ASCII with blanks and
 /// tabs between them, one between the timecodes. Nothing for any other line, event line or not.

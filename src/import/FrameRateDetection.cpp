@@ -13,7 +13,7 @@ namespace {
 /// Bytes that are looked at together, as two blocks.
 constexpr std::size_t stride = 2 * sizeof(ByteBlock);
 
-/// Bytes in lower case; other characters may come out as letters, which a closer look sorts out.
+/// Bytes in lower case. Other characters may turn into letters; the full match rejects those.
 ByteBlock lowerCaseBlock(const char* bytes) {
     return loadBlock(bytes) | 0x20;
 }
@@ -25,7 +25,7 @@ auto mayBeginName(const char* bytes) {
     return ((first == 'f') & ((second | 2) == 'r')) | ((first == 't') & (second == 'i'));
 }
 
-/// Where "fp", "fra" or "tim" starts, and a few others that a closer look sorts out.
+/// Where "fp", "fra" or "tim" starts, and a few others that the full match rejects.
 auto beginsName(const char* bytes) {
     const ByteBlock second = lowerCaseBlock(bytes + 1);
     const ByteBlock third = lowerCaseBlock(bytes + 2);
@@ -40,7 +40,7 @@ bool mayHoldName(const char* bytes) {
 }
 
 /// The first match of each form in which a file may name its rate. An unusable rate is a match,
-/// too: it keeps later ones of the same form from being looked at.
+/// too: later ones of the same form are not looked at.
 struct FirstMatches {
     std::optional<NamedRate> named;          // fps: 25
     std::optional<NamedRate> element;        // <timebase>25</timebase>

@@ -12,8 +12,8 @@ namespace {
 
 constexpr std::string_view longS = "\u017F";
 
-/// Removes `word`, which is in lower case, from the front of `rest`, if it stands there in any
-/// case.
+/// Removes `word`, which is in lower case, from the front of `rest`, if it stands there in upper or
+/// lower case.
 bool takeWord(std::string_view& rest, std::string_view word) {
     std::string_view after = rest;
     for (const char letter : word) {

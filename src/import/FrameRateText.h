@@ -15,8 +15,8 @@ struct NamedRate {
 };
 
 // The four forms in which a timeline file names its frame rate, each matched at the very beginning
-// of `text`; nothing when the form does not stand there. Letters match in either case, and U+017F
-// (the long s) as an s; white space is Unicode's and may include line breaks.
+// of `text`; nothing when the form does not stand there. Letters match in upper and lower case, and
+// U+017F (the long s) as an s. White space is Unicode's and may include line breaks.
 
 /// "frame rate", "framerate" or "fps", then ":" or "=", then a number.
 std::optional<NamedRate> matchNamedRate(std::string_view text);

@@ -29,7 +29,7 @@ std::size_t rareNewlineLength(std::string_view text) {
 
 constexpr std::size_t blockSize = sizeof(ByteBlock);
 
-/// All ones for each byte with which a rare newline begins, and for some that begin others.
+/// All ones for each byte that can begin a rare newline, and for a few that cannot.
 ByteBlock rareNewlineStarts(const char* bytes) {
     const ByteBlock block = loadBlock(bytes);
     return ByteBlock((block - 0x0B < 3) | ((block | 0x20) == 0xE2));
@@ -74,8 +74,8 @@ void Lines::lookAhead() {
     mayHoldOthers = mayHoldRareNewline(text.substr(position, lookedAt - position));
 }
 
-/// They are looked for only up to the next line feed, so that each is sought once, whatever the
-/// text consists of.
+/// Looks for other newlines only up to the next line feed, so that each byte is looked at once,
+/// whatever the text is made of.
 std::string_view Lines::nextAtAnyNewline() {
     const std::string_view line = text.substr(position, lineFeed - position);
     const std::size_t size = findRareNewline(line);

@@ -10,8 +10,8 @@
 
 namespace clipvane {
 
-/// Walks through the lines of a UTF-8 text. Every newline character (`isNewline`) ends a line by
-/// itself, so a carriage return and line feed have an empty line between them.
+/// Goes through the lines of a UTF-8 text. Every newline character (`isNewline`) ends a line, so
+/// there is an empty line between a carriage return and a line feed.
 class Lines {
   public:
     explicit Lines(std::string_view text) : text(text) { findLineFeed(); }
@@ -27,7 +27,7 @@ class Lines {
     }
 
   private:
-    /// The C library looks for line feeds faster than anybody else.
+    /// The C library finds line feeds fastest.
     void findLineFeed() { lineFeed = std::min(text.find('\n', position), text.size()); }
     void passLineFeed() {
         isThrough = lineFeed == text.size();

@@ -23,8 +23,8 @@ constexpr std::uint64_t repeated(std::uint8_t byte) {
 /// The number of characters before the first of eight that is not graphic ASCII: a blank, a control
 /// character, or a byte of a longer one. Eight if there is none.
 std::size_t graphicPrefix(std::uint64_t characters) {
-    // A byte below "!" borrows into its highest bit. The borrow may spoil the bytes above it, which
-    // do not count any more.
+    // Subtracting sets the highest bit of a byte below "!". Its borrow may spoil the bytes above
+    // it, but only the first byte found counts.
     const std::uint64_t below = (characters - repeated('!')) & ~characters;
     const std::uint64_t others = (below | characters) & repeated(0x80);
     return static_cast<std::size_t>(std::countr_zero(others)) / 8;
@@ -44,8 +44,8 @@ bool areDigits(std::string_view text) {
                                [](char c) { return isASCIIDigit(static_cast<unsigned char>(c)); });
 }
 
-/// Goes along a line's columns. What is not plain gives nothing. Eight bytes are looked at
-/// together, which a line has everywhere before its last timecode.
+/// Goes along a line's columns. A column that is not plain gives nothing. Eight bytes are looked at
+/// together: before its last timecode a line always has that many.
 class PlainColumns {
   public:
     explicit PlainColumns(std::string_view line) : at(line.data()), end(at + line.size()) {

@@ -28,8 +28,8 @@ Error unsupportedType() {
     return {"Clipvane", 10, "Unsupported file type. Open EDL, XML, FCPXML, or XMEML files."};
 }
 
-/// The text after the last "." of the file's name, in lower case; empty without one. No letter
-/// outside ASCII has a lower case that an accepted extension holds.
+/// The text after the last "." of the file's name, in lower case; empty without one. ASCII is
+/// enough: no other letter becomes one of an accepted extension.
 std::string lowerCaseExtension(const std::filesystem::path& url) {
     const std::string name = url.filename().native();
     const std::size_t dot = name.rfind('.');

@@ -11,7 +11,7 @@
 
 namespace clipvane {
 
-/// The attributes of XML timelines that mean something to the reader, under their own names.
+/// The attributes of XML timelines that the reader uses, under their own names.
 enum class XMLAttribute {
     asset,
     duration,

@@ -57,7 +57,8 @@ bool isLowerCaseASCII(std::string_view name) {
         name, [](char c) { return static_cast<unsigned char>(c) < 0x80 && asciiLower(c) == c; });
 }
 
-/// Empty when it cannot be made. The lower case of the Kelvin sign, for one, is an ASCII letter.
+/// Empty when it cannot be made. ICU makes it, since a few characters outside ASCII, such as the
+/// Kelvin sign, become ASCII letters.
 std::string lowerCase(std::string_view name) {
     std::string lowerCaseName;
     icu::StringByteSink<std::string> sink(&lowerCaseName);

@@ -8,7 +8,8 @@
 
 namespace clipvane {
 
-/// What an element of an XML timeline means to the reader. Element names count in either case.
+/// What an element of an XML timeline means to the reader. Upper and lower case in element names
+/// are the same.
 enum class XMLElement : std::uint8_t {
     other,
     // Elements that name the media which clips refer to.

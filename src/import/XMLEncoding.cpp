@@ -25,7 +25,7 @@ using ConverterPointer = std::unique_ptr<UConverter, decltype(&ucnv_close)>;
 constexpr std::string_view declarationStart = "<?xml";
 constexpr std::string_view markup = "<?xml =\"'/>&;#![]-:_09";
 constexpr const char* utf8 = "UTF-8";
-constexpr const char* utf16 = "UTF-16";  // the parser finds out which of the two byte orders
+constexpr const char* utf16 = "UTF-16";  // the parser finds the byte order
 
 bool looksLikeUTF16(std::string_view data) {
     return data.starts_with("\xFE\xFF"sv) || data.starts_with("\xFF\xFE"sv) ||
@@ -48,7 +48,7 @@ std::string declaredEncoding(std::string_view data) {
     return std::string(rest.substr(0, rest.find(quote)));
 }
 
-/// Lack of memory must not pass for an unknown encoding.
+/// Lack of memory must not look like an unknown encoding.
 void throwIfOutOfMemory(UErrorCode error) {
     if (error == U_MEMORY_ALLOCATION_ERROR) throw std::bad_alloc();
 }
@@ -63,13 +63,13 @@ ConverterPointer openConverter(const char* name) {
     UErrorCode error = U_ZERO_ERROR;
     ConverterPointer converter(ucnv_open(name, &error), ucnv_close);
     throwIfOutOfMemory(error);
-    // Without memory for its table of names ICU knows none, and says no more than that.
+    // When ICU has no memory for its table of names it only reports that it knows no such name.
     if (!converter && !knowsEncoding("windows-1252")) throw std::bad_alloc();
     return converter;
 }
 
-/// Whether the converter takes the ASCII that markup is made of for what it is, which the wider
-/// encodings and EBCDIC do not, nor those with other quotes in its place.
+/// Whether the converter reads the ASCII of markup as ASCII. Wider encodings and EBCDIC do not, nor
+/// do those that have other characters in place of its quotes.
 bool readsASCII(UConverter& converter) {
     std::array<UChar, markup.size() * 2> text;
     UErrorCode error = U_ZERO_ERROR;
@@ -82,8 +82,8 @@ bool readsASCII(UConverter& converter) {
                       [](UChar a, char b) { return a == UChar(b); });
 }
 
-/// Whether documents labelled with the converter's name had better be read as UTF-8: the label is
-/// false, or means UTF-8, or ASCII, which UTF-8 includes.
+/// Whether a document labelled with the converter's name is to be read as UTF-8: the label is
+/// false, or it means UTF-8 or ASCII, which is a part of UTF-8.
 bool meansUTF8(UConverter& converter, std::string_view data) {
     switch (ucnv_getType(&converter)) {
         case UCNV_UTF8:

@@ -3,7 +3,7 @@
 
 #include "import/XMLReader.h"
 
-// Expat declares its guards against expanding entities only to those who know that it has them.
+// Expat declares its guards against expanding entities only with this macro.
 #define XML_DTD
 #include <expat.h>
 
@@ -22,19 +22,20 @@
 namespace clipvane {
 namespace {
 
-// The parser counts in ints, and a piece that stays in the processor's cache is read faster. But of
-// a long comment or tag the parser starts anew with every piece, so these grow until one is
-// through.
+// The parser counts in ints, and a piece that stays in the processor's cache is read faster. But
+// with every piece the parser starts a long comment or tag again, so pieces grow until it has read
+// past it.
 constexpr std::size_t smallestPiece = std::size_t{1} << 18;
 constexpr std::size_t largestPiece = std::size_t{1} << 28;
 
-// What no timeline needs, but a hostile document could ask for, ends the reading as malformed XML
-// does: the events so far stay.
+// What no timeline needs but a hostile document could ask for ends the reading as malformed XML
+// does: the events read so far stay.
 
-/// The parser keeps some 140 bytes for each level, which can be written in three.
+/// The parser keeps some 140 bytes for each level of elements, and a level takes only three bytes
+/// to write.
 constexpr std::size_t mostLevels = 1'000'000;
 
-/// The parser calls itself for an entity within an entity, and its stack is not endless.
+/// The parser calls itself for an entity within an entity, and the stack is limited.
 constexpr std::size_t longestEntityChain = 256;
 
 /// The parser compares each default that an element declares for an attribute with all before it.
@@ -44,8 +45,8 @@ constexpr int mostDefaultAttributes = 10'000;
 /// megabytes for every document.
 constexpr float largestAmplification = 4;
 
-/// What reading may cost, in bytes of text handled. A text usually costs its size once; but each of
-/// many end tags may ask for all of a long text again, and each of many clips for a long name.
+/// The work that reading may take, in bytes of text handled. A text is usually handled once. But
+/// each of many end tags may need all of a long text again, and each of many clips a long name.
 constexpr std::size_t mostEffort(std::size_t size) {
     return 8 * size + (std::size_t{64} << 20);
 }
@@ -101,7 +102,7 @@ class ParserRun {
         if (run.delegate.effort > run.effortAllowed) run.stop();
     }
 
-    /// The parser may still call back once for what it has already read.
+    /// After it was stopped the parser may still call back once.
     void stop() {
         if (!hasStopped) XML_StopParser(parser.get(), XML_FALSE);
         hasStopped = true;
@@ -118,7 +119,8 @@ class ParserRun {
     static void startElement(void* userData, const XML_Char* name, const XML_Char** attributes) {
         auto& run = *static_cast<ParserRun*>(userData);
         if (run.open.size() == mostLevels) run.stop();
-        // Those that the element's declaration adds cost the document nothing.
+        // Attributes that the element's declaration adds take no room in the document, so they are
+        // counted.
         const int specified = XML_GetSpecifiedAttributeCount(run.parser.get());
         for (auto added = attributes + specified; *added != nullptr; added += 2) {
             run.delegate.effort += effortPerDefaultAttribute;
@@ -147,7 +149,7 @@ class ParserRun {
         });
     }
 
-    /// The blanks between elements, for one, are nobody's, and need not be handed over.
+    /// Text that nobody asks for, such as the blanks between elements, need not be handed over.
     void askForCharacters() {
         if (delegate.awaitsCharacters() == hasAsked) return;
         hasAsked = !hasAsked;

@@ -10,7 +10,7 @@
 
 namespace clipvane {
 
-/// Is told what the reader meets besides events.
+/// Is told what the reader finds besides events.
 class XMLWatcher {
   public:
     XMLWatcher() = default;

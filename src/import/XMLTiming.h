@@ -11,9 +11,9 @@
 namespace clipvane {
 
 // Timing values of XML timelines: frame numbers ("250"), seconds ("10s", "1001/30000s") and
-// timecodes, at `fps` frames a second. They are not the timecode arithmetic's: no drop-frame
-// separator is ever written, and a timecode needs a colon. A count outside 64 bits is fatal, as is
-// a number that is not finite.
+// timecodes, at `fps` frames a second. They differ from the timecode arithmetic in two ways: a
+// drop-frame separator is never written, and a timecode needs a colon. A count outside 64 bits is
+// fatal, as is a number that is not finite.
 
 /// A timing value as an event shows it.
 struct XMLTime {
@@ -21,8 +21,8 @@ struct XMLTime {
     std::optional<std::int64_t> frames;  ///< the count that the text was written for, if it was
 };
 
-/// A timing value as a timecode: a timecode as it stands, empty text for empty text or a negative
-/// frame number, and what cannot be understood as it stands, too.
+/// A timing value as a timecode. A timecode stays as it is, and so does what cannot be understood;
+/// empty text and a negative frame number give empty text.
 XMLTime xmlTime(std::string_view value, double fps);
 
 /// HH:MM:SS:FF; every field of a negative count carries its own minus sign.

@@ -36,7 +36,8 @@ void read(const json& from, UUID& id) {
 std::string encodeJSON(const TimelineEvent& event) {
     json object;
     forEachField([&](const char* key, const auto& value) { object[key] = written(value); }, event);
-    // A text that is not valid UTF-8, which no reader makes, must not lose the rest.
+    // A text that is not valid UTF-8 must not lose the rest. No reader makes one, but another
+    // program may.
     return object.dump(-1, ' ', false, json::error_handler_t::replace);
 }
 

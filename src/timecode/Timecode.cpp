@@ -77,7 +77,7 @@ void appendTimecode(std::string& text, std::int64_t count, std::int64_t base, ch
 std::optional<std::int64_t> frames(std::string_view from, double fps) {
     const auto fields = parseFields(from);
     if (!fields) return std::nullopt;
-    // Of an impossible time and an impossible rate the time is told.
+    // When both the time and the rate are impossible, the time is named.
     const std::int64_t seconds = countSeconds(*fields);
     return addChecked(multiplyChecked(seconds, frameBase(fps)), (*fields)[3]);
 }
@@ -101,8 +101,9 @@ void TimecodeConversion::prepareFrames() {
     for (std::size_t frames = 0; frames < newFrames.size(); ++frames) {
         const auto halves = static_cast<std::int64_t>(frames) * toBase * 2;
         const std::int64_t rounded = (halves + fromBase) / (fromBase * 2);
-        // Which way an exact half goes, the division of the whole count decides: its quotient may
-        // be no number of a double. Any other lies too far from a half to be led across.
+        // Which way an exact half goes is decided by dividing the whole count, since a double may
+        // not hold the quotient exactly. Any other quotient lies too far from a half to be rounded
+        // across it.
         const bool isHalf = halves % (fromBase * 2) == fromBase;
         const bool makesSeconds = rounded >= toBase;
         newFrames[frames] = isHalf || makesSeconds ? notAlone : static_cast<std::uint8_t>(rounded);
@@ -136,7 +137,7 @@ PackedTimecode TimecodeConversion::convertByCount(PackedTimecode timecode) const
 
 std::string convertTimecode(std::string_view timecode, double from, double to) {
     std::string converted(timecode);
-    // A text that is not a timecode asks nothing of the rates.
+    // A text that is not a timecode stays as it is, whatever the rates.
     if (parseFields(timecode)) TimecodeConversion(from, to).convert(converted);
     return converted;
 }

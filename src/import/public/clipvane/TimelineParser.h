@@ -15,8 +15,8 @@ namespace clipvane {
 /// Reads timeline files. A namespace of operations without state.
 ///
 /// Content never fails: lines and elements that cannot be used are skipped, a file without events
-/// yields none, and a file without a frame rate gets the default. Hostile numbers can reach the
-/// fatal cases of the arithmetic (`base/Number.h`).
+/// yields none, and a file without a frame rate gets the default. A number that no frame count can
+/// hold is fatal (`Fatal.h`).
 class TimelineParser {
   public:
     TimelineParser() = delete;

@@ -107,7 +107,7 @@ class EventList {
     mutable LazyIdentifiers identifiers;
 };
 
-/// Goes through a list; what it points to is made anew at each look.
+/// Goes through a list. The view that it gives is made anew each time.
 class EventList::Iterator {
   public:
     EventView operator*() const { return (*list)[row]; }

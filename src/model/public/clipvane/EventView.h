@@ -17,7 +17,7 @@ namespace clipvane {
 class EventList;
 
 /// An event of an `EventList`, seen without a copy of its texts: the fields of a `TimelineEvent`
-/// under the same names, but for the two that cost something.
+/// under the same names. The two that cost something are functions.
 ///
 /// A view is good while its list lives and lies where it lay. Removing events, this one too, and
 /// changing others leaves it as it is. What is done to its own event ends a view in part: after

@@ -16,7 +16,7 @@ namespace clipvane {
 class LazyIdentifiers {
   public:
     LazyIdentifiers() = default;
-    /// What was not drawn yet, a copy draws by itself.
+    /// A copy draws by itself what was not drawn yet.
     LazyIdentifiers(const LazyIdentifiers& other) : known(other.known) {}
     LazyIdentifiers(LazyIdentifiers&&) noexcept = default;
     LazyIdentifiers& operator=(LazyIdentifiers&&) noexcept = default;
