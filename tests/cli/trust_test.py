@@ -90,36 +90,33 @@ class Disks(ProgramTest):
 
 class Files(ProgramTest):
     def test_ten_thousand_files_stay_flat_in_memory(self):
-        first = self.put("0.edl", NAMED + EVENT * 10)
-        for number in range(1, 10000):
-            os.link(first, self.folder / f"{number}.edl")
-        used = {}
-        for count in (100, 10000):
-            names = [f"{number}.edl" for number in range(count)]
-            for command in (["list", "-f", "jsonl", "-o", "/dev/null"], ["check"]):
-                program = subprocess.Popen([PROGRAM, *command, *names], cwd=self.folder,
-                                           stdout=subprocess.DEVNULL)
-                _, status, usage = os.wait4(program.pid, 0)
-                program.returncode = status
-                self.assertEqual(status, 0)
-                used[command[0], count] = usage.ru_maxrss
-        for command in ("list", "check"):
-            # The names themselves, and what the options' library makes of them.
-            self.assertLess(used[command, 10000] - used[command, 100], 20000, used)
+        for number in range(10000):  # no links, since check takes no file twice
+            self.put(f"{number}.edl", NAMED + EVENT * 10)
+        names = [f"{number}.edl" for number in range(10000)]
+        for command in (["list", "-f", "jsonl", "-o", "/dev/null"], ["check", "-f", "jsonl"]):
+            with self.subTest(command=command):
+                for_few = self.least_memory(*command, *names[:100])
+                # The names themselves, and what the options' library makes of them.
+                done = self.within(for_few + (8 << 20), *command, *names)
+                self.assertEqual((done.status, done.said), (OK, ""))
+        self.assertEqual(done.output.count(b'"events":11,'), 10000)
+
+    def least_memory(self, *arguments):
+        return next(limit for limit in range(8 << 20, 1 << 30, 1 << 20)
+                    if self.within(limit, *arguments).status == OK)
 
     def test_little_memory_is_an_error(self):
-        text = NAMED + (EVENT + "* FROM CLIP NAME: a clip with a name\n") * 20000
+        text = NAMED + (EVENT + "* FROM CLIP NAME: a clip with a name\n") * 6000
         self.put("a.edl", text)
         self.put("a.jsonl", run("list", "-f", "jsonl", self.folder / "a.edl").output)
-        least = next(limit for limit in range(8 << 20, 1 << 30, 1 << 20)
-                     if self.within(limit, "--version").status == OK)
+        least = self.least_memory("--version")
         reasons = set()
         for command in (["list", "-f", "csv", "a.edl"], ["list", "-f", "jsonl", "a.edl"], ["list", "a.edl"],
                         ["check", "a.edl"], ["convert", "-o", "-", "a.edl"],
                         ["stamp", "--fps", "24", "--restamp", "-o", "-", "a.edl"],
                         ["list", "-f", "csv", "--from", "jsonl", "a.jsonl"]):
             whole = self.run_program(*command).output
-            for more in (1, 3, 6, 12, 25):
+            for more in (0, 1, 2, 4, 8):
                 with self.subTest(command=command, more=more):
                     done = self.within(least + (more << 20), *command)
                     self.assertIn(done.status, (OK, FAILED), done.said)
