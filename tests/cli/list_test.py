@@ -222,9 +222,10 @@ class Inputs(ProgramTest):
 
     def test_process_substitution(self):
         self.put("cut.edl", NAMED)
-        done = subprocess.run(["bash", "-c", f"'{PROGRAM}' list --from edl -f csv <(cat cut.edl)"],
-                              cwd=self.folder, capture_output=True, check=True)
-        self.assertEqual(done.stdout, run("list", "-f", "csv", self.folder / "cut.edl").output)
+        for stream in ("<(cat cut.edl)", "/dev/fd/3 3< <(cat cut.edl)", "/proc/self/fd/3 3< <(cat cut.edl)"):
+            done = subprocess.run(["bash", "-c", f"'{PROGRAM}' list --from edl -f csv {stream}"],
+                                  cwd=self.folder, capture_output=True, check=True)
+            self.assertEqual(done.stdout, run("list", "-f", "csv", self.folder / "cut.edl").output)
 
     def test_folder_that_is_one_timeline(self):
         self.put("cut.FCPXMLD/Info.fcpxml",
