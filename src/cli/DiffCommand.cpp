@@ -143,6 +143,7 @@ class DiffCommand : public Command {
         const auto detail = verbose ? diff::Detail::everyEvent : diff::Detail::usual;
         const auto changes = diff::tableRows(compared, detail);
         std::vector<Table::Column> columns;
+        columns.reserve(diff::tableColumns.size());
         for (const auto title : diff::tableColumns) {
             const bool mayNarrow = columns.size() >= narrowed;
             columns.push_back({std::string(title), mayNarrow ? 4 : wholeWidth});

@@ -20,7 +20,7 @@ namespace {
 
 constexpr QSize contentSize{620, 520};
 constexpr QSize minimumFrameSize{520, 420};
-constexpr int margin = 18;
+constexpr int innerMargin = 18;
 constexpr int textInset = 10;
 
 QPlainTextEdit* makeTextView() {
@@ -56,7 +56,7 @@ HelpWindow::HelpWindow() {
     own.setColor(QPalette::Window, colours::helpWindow);
     content->setPalette(own);
     auto* layout = new QVBoxLayout(content);
-    layout->setContentsMargins(margin, margin, margin, margin);
+    layout->setContentsMargins(innerMargin, innerMargin, innerMargin, innerMargin);
     layout->addWidget(makeTextView());
     setCentralWidget(content);
     new FrameMinimumSize(this, minimumFrameSize);

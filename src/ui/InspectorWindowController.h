@@ -52,16 +52,16 @@ class InspectorWindowController : public DocumentCommands {
     std::optional<std::filesystem::path> runOpenPanel() override;
     std::optional<std::filesystem::path> runSavePanel(const std::string& defaultName) override;
     void runAlert(const Alert& alert) override;
-    std::optional<std::size_t> selectedRow() const override;
+    std::optional<std::size_t> selectedRow() const final;
     void showNewEvents(std::optional<std::size_t> selected) override;
     void removeRow(std::size_t row, const std::function<void()>& erase,
                    std::optional<std::size_t> selected) override;
     void refreshTexts() override;
-    void refreshDetails() override;
+    void refreshDetails() final;
     void setStatus(const std::string& text) override;
     std::optional<std::string> editedComments() const override;
     std::optional<std::string> selectedFPSTitle() const override;
-    void syncFPSPopup() override;
+    void syncFPSPopup() final;
     void setPasteboardText(const std::string& text) override;
     void writeLog(const std::string& message) override;
     void whileBusy(const std::function<void()>& work) override;

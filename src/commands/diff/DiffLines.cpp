@@ -27,7 +27,11 @@ struct Change {
 
     bool isBlack() const { return line.kind == ReportLine::Kind::black; }
     bool isOfOld() const { return line.kind == ReportLine::Kind::ofOld; }
-    Words words() const { return isOfOld() ? oldEvent->words : newEvent->words; }
+    /// Black has none.
+    Words words() const {
+        if (!isOfOld() && newEvent != nullptr) return newEvent->words;
+        return oldEvent != nullptr ? oldEvent->words : Words();
+    }
 
     /// A count of an event of NEW, where it bears the word.
     Count where(Word word, std::int64_t NewEvent::*count) const {
