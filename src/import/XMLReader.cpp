@@ -9,8 +9,11 @@
 
 #include <algorithm>
 #include <exception>
+#include <map>
 #include <memory>
 #include <new>
+#include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -38,9 +41,6 @@ constexpr std::size_t mostLevels = 1'000'000;
 /// The parser calls itself for an entity within an entity, and the stack is limited.
 constexpr std::size_t longestEntityChain = 256;
 
-/// The parser compares each default that an element declares for an attribute with all before it.
-constexpr int mostDefaultAttributes = 10'000;
-
 /// How many times its own size a document may grow by its entities, beyond the parser's eight
 /// megabytes for every document.
 constexpr float largestAmplification = 4;
@@ -52,6 +52,7 @@ constexpr std::size_t mostEffort(std::size_t size) {
 }
 constexpr std::size_t effortPerDefaultAttribute = 16;
 constexpr std::size_t effortPerEntityStep = 64;
+constexpr std::size_t effortPerComparedAttribute = 1;
 
 /// One run of the parser over a document, calling back the delegate.
 class ParserRun {
@@ -170,11 +171,17 @@ class ParserRun {
         });
     }
 
-    static void attributeDeclaration(void* userData, const XML_Char* /*element*/,
-                                     const XML_Char* /*name*/, const XML_Char* /*type*/,
+    /// The parser compares an attribute that has a default, or is an ID, with all that were
+    /// declared for the same element before it.
+    static void attributeDeclaration(void* userData, const XML_Char* element,
+                                     const XML_Char* /*name*/, const XML_Char* type,
                                      const XML_Char* value, int /*isRequired*/) {
         auto& run = *static_cast<ParserRun*>(userData);
-        if (value != nullptr && ++run.defaultAttributes > mostDefaultAttributes) run.stop();
+        guarded(userData, [&](CommonTimelineXMLDelegate& reader) {
+            const std::size_t before = run.declaredAttributes[element]++;
+            if (value == nullptr && std::string_view(type) != "ID") return;
+            reader.effort += before * effortPerComparedAttribute;
+        });
     }
 
     CommonTimelineXMLDelegate& delegate;
@@ -187,7 +194,8 @@ class ParserRun {
     std::vector<XMLElement> open;  ///< the meanings of the elements that have not ended
     std::size_t effortAllowed = 0;
     EntityChains chains{longestEntityChain};
-    int defaultAttributes = 0;
+    /// Their number by element. A tree, as in `EntityChains`.
+    std::map<std::string, std::size_t> declaredAttributes;
 };
 
 }  // namespace

@@ -20,9 +20,8 @@ class EventList;
 /// under the same names. The two that cost something are functions.
 ///
 /// A view is good while its list lives and lies where it lay. Removing events, this one too, and
-/// changing others leaves it as it is. What is done to its own event ends a view in part: after
-/// `setComments` its `comments`, and after a conversion its timecodes, are not to be read;
-/// `replace` ends it.
+/// comments on others leave it as it is. After any conversion its timecodes are not to be read,
+/// after `setComments` on its event its `comments` neither; `replace` ends it.
 ///
 /// It cannot be copied, and is meant for the one statement or the one block that looks at it:
 ///
