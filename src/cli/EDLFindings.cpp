@@ -44,7 +44,7 @@ std::string_view withoutBlanks(std::string_view line) {
     return line;
 }
 
-/// In any case of letters; `word` is in lower case.
+/// In upper or lower case; `word` is in lower case.
 bool beginsWith(std::string_view line, std::string_view word) {
     return std::ranges::equal(line.substr(0, word.size()), word, {}, asciiLower);
 }

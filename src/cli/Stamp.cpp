@@ -114,7 +114,7 @@ std::vector<std::string> candidates(std::string_view text, const std::string& ra
     return results;
 }
 
-/// All fields but the identity, which is drawn anew.
+/// All fields but the identifier, which is new each time.
 bool isSame(TimelineEvent a, const TimelineEvent& b) {
     a.id = b.id;
     return a == b;

@@ -73,7 +73,7 @@ void Reader::readLine(std::string_view line) {
     }
 }
 
-/// The event's lines go to the end of this one. They are joined anew when others stand between
+/// The event's lines go to the end of this one. They must be joined when others stand between
 /// them, or when they do not end with line feeds.
 void Reader::takeComment(std::string_view line) {
     const char* const begin = event.lines.data();

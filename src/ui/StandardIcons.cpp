@@ -152,7 +152,7 @@ Drawing drawingOf(QStyle::StandardPixmap which) {
     }
 }
 
-/// Draws anew at every size, so that it is sharp on every screen.
+/// Draws again at every size, so that it is sharp on every screen.
 class DrawnIcon : public QIconEngine {
   public:
     explicit DrawnIcon(Drawing drawing) : drawing(drawing) {}

@@ -107,7 +107,7 @@ class EventList {
     mutable LazyIdentifiers identifiers;
 };
 
-/// Goes through a list. The view that it gives is made anew each time.
+/// Goes through a list. It makes a new view each time.
 class EventList::Iterator {
   public:
     EventView operator*() const { return (*list)[row]; }
