@@ -36,7 +36,7 @@ bool isHidden(char32_t c) {
     }
 }
 
-std::size_t columnsOf(char32_t c) {
+std::size_t columnsOfCharacter(char32_t c) {
     if (c < 0x300) return 1;
     const auto point = static_cast<UChar32>(c);
     switch (u_charType(point)) {
@@ -56,7 +56,7 @@ std::string_view beginning(std::string_view text, std::size_t columns) {
     std::size_t end = 0;
     while (end < text.size()) {
         const CodePoint next = firstCodePoint(text.substr(end));
-        const std::size_t width = columnsOf(next.value);
+        const std::size_t width = columnsOfCharacter(next.value);
         if (width > columns) break;
         columns -= width;
         end += next.length;
@@ -70,7 +70,7 @@ std::string_view ending(std::string_view text, std::size_t columns) {
     std::size_t candidate = begin;
     while (candidate > 0) {
         const CodePoint last = lastCodePoint(text.substr(0, candidate));
-        const std::size_t width = columnsOf(last.value);
+        const std::size_t width = columnsOfCharacter(last.value);
         if (width > columns) break;
         columns -= width;
         candidate -= last.length;
@@ -100,7 +100,7 @@ std::size_t columnsOf(std::string_view text) {
     std::size_t columns = 0;
     while (!text.empty()) {
         const CodePoint next = firstCodePoint(text);
-        columns += columnsOf(next.value);
+        columns += columnsOfCharacter(next.value);
         text.remove_prefix(next.length);
     }
     return columns;

@@ -8,9 +8,9 @@
 namespace clipvane {
 namespace {
 
-using Table = NameTable<XMLAttribute, 20>;
+using AttributeTable = NameTable<XMLAttribute, 20>;
 
-constexpr Table attributes(std::array<Table::Entry, 20>{{
+constexpr AttributeTable attributes(std::array<AttributeTable::Entry, 20>{{
     {"asset", XMLAttribute::asset},     {"duration", XMLAttribute::duration},
     {"end", XMLAttribute::end},         {"highlighted", XMLAttribute::highlighted},
     {"id", XMLAttribute::id},           {"in", XMLAttribute::in},

@@ -16,9 +16,9 @@
 namespace clipvane {
 namespace {
 
-using Table = NameTable<XMLElement, 29>;
+using ElementTable = NameTable<XMLElement, 29>;
 
-constexpr Table elements(std::array<Table::Entry, 29>{{
+constexpr ElementTable elements(std::array<ElementTable::Entry, 29>{{
     {"asset", XMLElement::asset},
     {"asset-clip", XMLElement::clip},
     {"clip", XMLElement::clip},

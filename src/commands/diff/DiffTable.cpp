@@ -13,7 +13,7 @@ namespace {
 
 enum Column { track, oldRow, newRow, change, oldRecord, newRecord, source, reel, name };
 
-std::string rowNumber(std::uint32_t row) {
+std::string rowText(std::uint32_t row) {
     std::string text;
     appendInteger(text, std::int64_t{row} + 1);
     return text;
@@ -60,7 +60,7 @@ class Rows {
 
     void addEvent(const NewEvent& event) {
         TableRow& row = add(event.track);
-        row[newRow] = rowNumber(event.row);
+        row[newRow] = rowText(event.row);
         row[change] = phraseOf(event, compared);
         const auto& in = compared.newList.events[event.row];
         row[newRecord] = range(in.recordIn, in.recordOut);
@@ -76,8 +76,8 @@ class Rows {
         const OldEvent& oldLast = oldEvents[*last.partner];
         const Word word = first.words.has(Word::moved) ? Word::moved : Word::shifted;
         TableRow& row = add(first.track);
-        row[oldRow] = rowNumber(oldFirst.row) + '-' + rowNumber(oldLast.row);
-        row[newRow] = rowNumber(first.row) + '-' + rowNumber(last.row);
+        row[oldRow] = rowText(oldFirst.row) + '-' + rowText(oldLast.row);
+        row[newRow] = rowText(first.row) + '-' + rowText(last.row);
         row[change] = std::to_string(count) + " events " + shiftPhrase(word, first.shift);
         const auto& newList = compared.newList.events;
         const auto& oldList = compared.oldList.events;
@@ -110,7 +110,7 @@ class Rows {
     }
 
     void setOld(TableRow& row, const OldEvent& event) const {
-        row[oldRow] = rowNumber(event.row);
+        row[oldRow] = rowText(event.row);
         const auto& in = compared.oldList.events[event.row];
         row[oldRecord] = range(in.recordIn, in.recordOut);
     }

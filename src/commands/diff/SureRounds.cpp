@@ -16,7 +16,7 @@
 namespace clipvane::diff {
 namespace {
 
-using Indices = std::span<const std::uint32_t>;
+using IndexSpan = std::span<const std::uint32_t>;
 
 /// All that the first round compares.
 auto standing(const CutEvent& e) {
@@ -33,10 +33,10 @@ std::vector<std::uint32_t> withPlace(const Cut& cut, bool hasPlace) {
 }
 
 /// The events at the first place, which leave `all`.
-Indices takePlace(Indices& all, const Cut& cut) {
+IndexSpan takePlace(IndexSpan& all, const Cut& cut) {
     const std::int64_t place = cut[all.front()].recordIn;
     const auto end = std::ranges::find_if(all, [&](auto i) { return cut[i].recordIn != place; });
-    const Indices taken(all.begin(), end);
+    const IndexSpan taken(all.begin(), end);
     all = all.subspan(taken.size());
     return taken;
 }
@@ -46,7 +46,7 @@ class EqualPairs {
   public:
     EqualPairs(const Cut& oldCut, const Cut& newCut) : oldCut(oldCut), newCut(newCut) {}
 
-    void add(Indices olds, Indices news) {
+    void add(IndexSpan olds, IndexSpan news) {
         if (olds.size() == 1 && news.size() == 1) {
             if (standing(oldCut[olds.front()]) == standing(newCut[news.front()])) {
                 pair(olds.front(), news.front());
@@ -65,7 +65,7 @@ class EqualPairs {
     std::vector<Run> result() && { return std::move(runs); }
 
   private:
-    static std::vector<std::uint32_t> sorted(Indices events, const Cut& cut) {
+    static std::vector<std::uint32_t> sorted(IndexSpan events, const Cut& cut) {
         std::vector<std::uint32_t> order(events.begin(), events.end());
         std::ranges::sort(order, [&](std::uint32_t a, std::uint32_t b) {
             return std::tuple(standing(cut[a]), a) < std::tuple(standing(cut[b]), b);
@@ -162,8 +162,8 @@ std::vector<Run> SureRounds::pairUnchanged() {
     // Equal events stand at one place, and both cuts come in the order of places.
     const auto oldPlaced = withPlace(oldCut, true);
     const auto newPlaced = withPlace(newCut, true);
-    Indices olds(oldPlaced);
-    Indices news(newPlaced);
+    IndexSpan olds(oldPlaced);
+    IndexSpan news(newPlaced);
     while (!olds.empty() && !news.empty()) {
         const std::int64_t oldPlace = oldCut[olds.front()].recordIn;
         const std::int64_t newPlace = newCut[news.front()].recordIn;
