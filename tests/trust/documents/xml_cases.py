@@ -189,7 +189,7 @@ CASES = [
     xml("default-attributes-of-many-elements", default_attributes(lambda size: min(size // 2, 200000)),
         lambda size: 2 if size < 30000 else 1),
     xml("default-attributes", default_attributes(lambda size: size // 2), lambda size:
-        2 if size < 30000 else 1 if size < 480000 else 0),
+        2 if size < 30000 else 1 if size < 575000 else 0),
     xml("groups-in-groups", around(b"<!DOCTYPE a [<!ELEMENT a ", b"(", b"a"), 0),
     # Depth and width.
     xml("levels", nested(b"<b>", b"</b>", TAIL), lambda size: 2 if size < 6000000 else 1),
