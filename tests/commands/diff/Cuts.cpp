@@ -84,8 +84,9 @@ std::string spelled(std::string text, std::size_t row) {
 
 Row cut(std::string reel, std::int64_t sourceIn, std::int64_t sourceOut, std::int64_t recordIn,
         std::string track, std::string name) {
-    return {std::move(reel),  sourceIn,       sourceOut, recordIn, recordIn + sourceOut - sourceIn,
-            std::move(track), std::move(name)};
+    return {
+        std::move(reel),  sourceIn,       sourceOut, recordIn, recordIn + (sourceOut - sourceIn),
+        std::move(track), std::move(name)};
 }
 
 std::vector<JudgedEvent> judgedOf(const std::vector<Row>& rows) {
