@@ -85,6 +85,7 @@ def leave_and_come_back(desk, main, text):
         with desk.step(f"the help {change}: moved and closed, it comes back as it was left"):
             if change == "larger":
                 xdotool("windowsize", text, 560, 470)
+                wait_equal(lambda: content_size(text), (560, 470), "the help's size")
             xdotool("windowmove", text, 123, 87)
             wait_for(lambda: content(text)[0] in range(123, 140), "the help to be moved")
             place = content(text)
