@@ -160,12 +160,13 @@ class Desk:
 
     def choose_file(self, title, path):
         """Types a path into the file dialog, whose name field has the keyboard. The dialog reads
-        folders as it goes, and on a slow machine may take Return for a completion of the folder's
-        name instead: then the path is typed again, as a person would."""
+        folders as it goes, and on a busy machine its list of completions may come late and take
+        Return for itself: then the path is typed again, as a person would. While that list shows,
+        the tree names nothing that has the keyboard, yet the keys reach the name field."""
         self.await_window(title)
+        self.await_focus("text", "File name:")
         dialog = active_window()
         for _ in range(3):
-            self.await_focus("text", "File name:")
             press("ctrl+a")
             type_text(str(path))
             press("Return")

@@ -42,8 +42,8 @@ class WaylandDesk(Desk):
     def choose_file(self, title, path):
         """As on any desktop: the path is typed once more where the dialog was not ready for it."""
         self.await_window(title)
+        self.await_focus("text", "File name:")
         for _ in range(3):
-            self.await_focus("text", "File name:")
             press("ctrl+a")
             type_text(str(path))
             press("Return")
