@@ -172,8 +172,7 @@ RowTimecode EventList::keepOdd(std::string_view timecode) {
 
 std::string_view EventList::timecodeText(RowTimecode timecode,
                                          std::span<char, twoDigitLength> room) const {
-    if (timecode.isEmpty()) return {};
-    if (!timecode.isPacked()) return oddTimecodes[timecode.textNumber()];
+    if (!timecode.isPacked()) return unusualText(timecode);
     timecode.packed().write(room);
     return {room.data(), room.size()};
 }

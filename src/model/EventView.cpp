@@ -9,14 +9,8 @@ namespace clipvane {
 
 EventView::EventView(const EventList& list, std::uint32_t index) : list(list), index(index) {
     const EventRow& row = list.rows[index];
-    std::array<std::string_view, 4> columns;
-    if (row.isWide) {
-        columns = list.wideTexts.at(index).columns;
-        format = list.wideTexts.at(index).format;
-    } else {
-        for (std::size_t i = 0; i < columns.size(); ++i) columns[i] = row.columns[i].of(row.texts);
-        format = formatText(row.format);
-    }
+    const auto columns = list.columnsOf(index);
+    format = row.isWide ? list.wideTexts.at(index).format : formatText(row.format);
     eventNumber = columns[0];
     clipName = columns[1];
     reelID = columns[2];

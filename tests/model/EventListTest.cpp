@@ -6,8 +6,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
 #include <functional>
 #include <set>
+#include <string>
 
 #include "model/FoundEvent.h"
 #include "model/FullEvent.h"
@@ -58,6 +60,32 @@ TEST(EventList, WhatIsPutIn_ComesOut) {
     ASSERT_EQ(list.size(), events.size());
     for (std::size_t row = 0; row < events.size(); ++row) {
         EXPECT_EQ(list[row].record(), events[row]) << "row " << row;
+    }
+}
+
+TEST(EventList, WhatIsPutIn_IsKeptWithoutTextsOfUsualTimecodes) {
+    const auto events = allKinds();
+    const EventList list(events);
+    for (std::size_t row = 0; row < events.size(); ++row) {
+        SCOPED_TRACE("row " + std::to_string(row));
+        const TimelineEvent& event = events[row];
+        const KeptEvent kept = list.kept(row);
+        EXPECT_EQ(kept.eventNumber, event.eventNumber);
+        EXPECT_EQ(kept.clipName, event.clipName);
+        EXPECT_EQ(kept.reelID, event.reelID);
+        EXPECT_EQ(kept.track, event.track);
+        EXPECT_EQ(kept.isFromEDL, event.format == "EDL");
+        const std::array texts{event.sourceIn, event.sourceOut, event.recordIn, event.recordOut};
+        for (std::size_t i = 0; i < texts.size(); ++i) {
+            const RowTimecode timecode = kept.timecodes[i];
+            const auto packed = PackedTimecode::pack(texts[i]);
+            ASSERT_EQ(timecode.isPacked(), packed.has_value()) << texts[i];
+            if (packed) {
+                EXPECT_EQ(timecode.packed().bits(), packed->bits());
+            } else {
+                EXPECT_EQ(list.unusualText(timecode), texts[i]);
+            }
+        }
     }
 }
 

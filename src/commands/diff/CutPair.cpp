@@ -9,18 +9,14 @@
 #include <limits>
 #include <map>
 #include <optional>
-#include <set>
 #include <tuple>
 #include <utility>
 
-#include "base/Number.h"
 #include "commands/diff/ListedEvent.h"
 #include "commands/diff/TextNumbers.h"
 
 namespace clipvane::diff {
 namespace {
-
-using Listed = std::vector<ListedEvent>;
 
 /// Numbers for combinations of numbers, from 0.
 template <class Key>
@@ -50,16 +46,16 @@ class Table {
     std::vector<std::uint32_t> numbers;
 };
 
-/// Tells sources apart.
+/// Tells sources apart, by reels and given names.
 class Sources {
   public:
-    Sources(By by, std::uint32_t ax, const Listed& oldEvents, const Listed& newEvents)
+    Sources(By by, std::uint32_t ax, const Cut& oldCut, const Cut& newCut)
         : by(by), silentReels{0, ax} {
-        findSilentReel(oldEvents);
-        findSilentReel(newEvents);
+        findSilentReel(oldCut);
+        findSilentReel(newCut);
     }
 
-    std::uint32_t of(const ListedEvent& event) {
+    std::uint32_t of(const CutEvent& event) {
         const auto next = [&] { return count++; };
         switch (toldBy(event)) {
             case Told::byReel:
@@ -75,28 +71,29 @@ class Sources {
   private:
     enum class Told { byReel, byName, byBoth };
 
-    void findSilentReel(const Listed& events) {
-        if (events.empty()) return;
-        const std::uint32_t reel = events.front().reel;
+    void findSilentReel(const Cut& cut) {
+        if (cut.empty()) return;
+        const std::uint32_t reel = cut.front().reel;
         std::optional<std::uint32_t> name;
         bool hasSeveralNames = false;
-        for (const ListedEvent& event : events) {
+        for (const CutEvent& event : cut) {
             if (event.reel != reel) return;
             if (event.name == 0) continue;
             if (!name) name = event.name;
             hasSeveralNames = hasSeveralNames || event.name != *name;
         }
-        if (hasSeveralNames) silentReels.insert(reel);
+        if (hasSeveralNames) silentReels.push_back(reel);
     }
 
-    Told toldBy(const ListedEvent& event) const {
+    Told toldBy(const CutEvent& event) const {
         if (by == By::reelAndName) return Told::byBoth;
         if (by == By::name) return event.name != 0 ? Told::byName : Told::byReel;
-        return silentReels.contains(event.reel) ? Told::byBoth : Told::byReel;
+        const bool isSilent = std::ranges::find(silentReels, event.reel) != silentReels.end();
+        return isSilent ? Told::byBoth : Told::byReel;
     }
 
     By by;
-    std::set<std::uint32_t> silentReels;
+    std::vector<std::uint32_t> silentReels;  // at most four
     Table byReel;
     Table byName;
     Table byBoth;
@@ -104,120 +101,63 @@ class Sources {
     std::uint32_t count = 0;
 };
 
-class PairMaker {
+/// Gives the events of both lists their sources and contents.
+class Numbering {
     /// Kind, source, and what else must be equal.
     using Thing = std::tuple<Kind, std::uint32_t, std::int64_t, std::int64_t, std::int64_t>;
 
   public:
-    PairMaker(const CutList& oldList, const CutList& newList, std::optional<By> by)
-        : oldListed(listEvents(oldList, texts)),
-          newListed(listEvents(newList, texts)),
-          sources(by.value_or(usualBy()), texts.of("AX"), oldListed.events, newListed.events) {
-        pair.by = by.value_or(usualBy());
-        numberTracks(oldList, newList);
-    }
+    Numbering(By by, Sources sources) : by(by), sources(std::move(sources)) {}
 
-    CutPair make() && {
-        pair.oldCut = makeCut(oldListed.events);
-        pair.newCut = makeCut(newListed.events);
-        return std::move(pair);
+    void number(ListedEvents& listed) {
+        auto odd = listed.odd.begin();
+        for (CutEvent& event : listed.cut) {
+            event.source = sources.of(event);
+            if (by != By::reel) event.name = 0;
+            if (event.kind == Kind::plain) {
+                event.content = plainContents.of(event.source, [&] { return contentCount++; });
+            } else if (event.kind == Kind::odd) {
+                const std::uint32_t timecodes = oddTimecodes.of((odd++)->texts);
+                event.content = contentOf({event.kind, event.source, timecodes, 0, 0});
+            } else {
+                event.content = contentOf({event.kind, event.source, event.sourceIn,
+                                           event.sourceOut, event.recordOut - event.recordIn});
+            }
+        }
     }
 
   private:
-    By usualBy() const { return oldListed.isFromEDL && newListed.isFromEDL ? By::reel : By::name; }
-
-    void numberTracks(const CutList& oldList, const CutList& newList) {
-        numberTracks(newList, newListed.events);
-        const std::size_t inNew = pair.tracks.size();
-        numberTracks(oldList, oldListed.events);
-        const bool isOneEmpty = oldListed.events.empty() != newListed.events.empty();
-        const auto isInNew = [&](const ListedEvent& event) { return trackOf(event) < inNew; };
-        pair.comparesTracks = isOneEmpty || std::ranges::any_of(oldListed.events, isInNew);
-        if (!pair.comparesTracks) pair.tracks = {""};
-    }
-
-    void numberTracks(const CutList& list, const Listed& events) {
-        for (const ListedEvent& event : events) {
-            trackNumbers.of(event.track, [&] {
-                pair.tracks.emplace_back(list.events[event.row].track);
-                return static_cast<std::uint32_t>(pair.tracks.size() - 1);
-            });
-        }
-    }
-
-    std::uint32_t trackOf(const ListedEvent& event) {
-        return trackNumbers.of(event.track, [] { return std::uint32_t{0}; });
-    }
-
-    Cut makeCut(const Listed& events) {
-        Cut cut;
-        cut.reserve(events.size());
-        std::vector<std::int64_t> order;  // record in, or that of the row before an odd one
-        order.reserve(events.size());
-        for (const ListedEvent& listed : events) {
-            const CutEvent event = makeEvent(listed);
-            const std::int64_t before = order.empty() ? 0 : order.back();
-            order.push_back(event.hasPlace() ? event.recordIn : before);
-            cut.push_back(event);
-        }
-        return std::ranges::is_sorted(order) ? cut : inRecordOrder(cut, order);
-    }
-
-    static Cut inRecordOrder(const Cut& cut, const std::vector<std::int64_t>& order) {
-        std::vector<std::uint32_t> indices(cut.size());
-        for (std::uint32_t i = 0; i < indices.size(); ++i) indices[i] = i;
-        std::ranges::stable_sort(indices, {}, [&](std::uint32_t i) { return order[i]; });
-        Cut sorted;
-        sorted.reserve(cut.size());
-        for (const std::uint32_t i : indices) sorted.push_back(cut[i]);
-        return sorted;
-    }
-
-    CutEvent makeEvent(const ListedEvent& listed) {
-        CutEvent event;
-        event.row = listed.row;
-        event.track = pair.comparesTracks ? trackOf(listed) : 0;
-        event.name = pair.by == By::reel ? listed.name : 0;
-        event.source = sources.of(listed);
-        const auto& [sourceIn, sourceOut, recordIn, recordOut] = listed.times;
-        if (!sourceIn || !sourceOut || !recordIn || !recordOut || *recordOut < *recordIn) {
-            event.kind = Kind::odd;
-            const std::uint32_t timecodes = oddTimecodes.of(listed.timecodes);
-            event.content = contentOf({event.kind, event.source, timecodes, 0, 0});
-            return event;
-        }
-        event.sourceIn = *sourceIn;
-        event.sourceOut = *sourceOut;
-        event.recordIn = *recordIn;
-        event.recordOut = *recordOut;
-        const std::int64_t length = subtractChecked(*recordOut, *recordIn);
-        const std::int64_t sourceLength = subtractChecked(*sourceOut, *sourceIn);
-        if (length == sourceLength && length > 0) {
-            event.content = plainContents.of(event.source, [&] { return contentCount++; });
-        } else {
-            event.kind = length == 0 ? Kind::point : Kind::whole;
-            event.content = contentOf({event.kind, event.source, *sourceIn, *sourceOut, length});
-        }
-        return event;
-    }
-
     /// The content of an event that is compared as one thing.
     std::uint32_t contentOf(const Thing& thing) {
         return thingContents.of(things.of(thing), [&] { return contentCount++; });
     }
 
-    TextNumbers texts;
-    ListedEvents oldListed;
-    ListedEvents newListed;
+    By by;
     Sources sources;
-    Table trackNumbers;
     Table plainContents;
     Table thingContents;
     Numbers<std::array<std::uint32_t, 4>> oddTimecodes;
     Numbers<Thing> things;
     std::uint32_t contentCount = 0;
-    CutPair pair;
 };
+
+/// The events by record in, then row; an odd one behind that of the row before it.
+Cut inRecordOrder(Cut cut) {
+    std::vector<std::int64_t> places;
+    places.reserve(cut.size());
+    for (const CutEvent& event : cut) {
+        const std::int64_t before = places.empty() ? 0 : places.back();
+        places.push_back(event.hasPlace() ? event.recordIn : before);
+    }
+    if (std::ranges::is_sorted(places)) return cut;
+    std::vector<std::uint32_t> indices(cut.size());
+    for (std::uint32_t i = 0; i < indices.size(); ++i) indices[i] = i;
+    std::ranges::stable_sort(indices, {}, [&](std::uint32_t i) { return places[i]; });
+    Cut sorted;
+    sorted.reserve(cut.size());
+    for (const std::uint32_t i : indices) sorted.push_back(cut[i]);
+    return sorted;
+}
 
 }  // namespace
 
@@ -230,7 +170,30 @@ std::optional<std::uint32_t> findTrack(const std::vector<std::string>& tracks,
 }
 
 CutPair makeComparable(const CutList& oldList, const CutList& newList, std::optional<By> by) {
-    return PairMaker(oldList, newList, by).make();
+    TextNumbers texts;
+    TrackNumbers tracks;
+    ListedEvents news = listEvents(newList, texts, tracks);
+    const std::size_t inNew = tracks.all().size();
+    ListedEvents olds = listEvents(oldList, texts, tracks);
+
+    CutPair pair;
+    pair.by = by.value_or(olds.isFromEDL && news.isFromEDL ? By::reel : By::name);
+    pair.tracks = tracks.all();
+    const bool isOneEmpty = olds.cut.empty() != news.cut.empty();
+    const auto isInNew = [&](const CutEvent& event) { return event.track < inNew; };
+    pair.comparesTracks = isOneEmpty || std::ranges::any_of(olds.cut, isInNew);
+    if (!pair.comparesTracks) {
+        pair.tracks = {""};
+        for (Cut* const cut : {&olds.cut, &news.cut}) {
+            for (CutEvent& event : *cut) event.track = 0;
+        }
+    }
+    Numbering numbering(pair.by, {pair.by, texts.of("AX"), olds.cut, news.cut});
+    numbering.number(olds);
+    numbering.number(news);
+    pair.oldCut = inRecordOrder(std::move(olds.cut));
+    pair.newCut = inRecordOrder(std::move(news.cut));
+    return pair;
 }
 
 }  // namespace clipvane::diff

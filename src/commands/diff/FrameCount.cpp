@@ -3,9 +3,10 @@
 
 #include "commands/diff/FrameCount.h"
 
+#include <array>
+
 #include <clipvane/FrameRate.h>
 #include <clipvane/Timecode.h>
-#include <clipvane/detail/PackedTimecode.h>
 
 namespace clipvane::diff {
 
@@ -17,18 +18,21 @@ FrameCounter::FrameCounter(const Counting& counting)
                     : 0) {}
 
 std::optional<std::int64_t> FrameCounter::count(std::string_view timecode) const {
-    const auto count = countAll(timecode);
-    if (!count || !counting.dropsFrames) return count;
-    const std::int64_t base = frameBase(counting.fps);
-    const std::int64_t minutes = *count / (60 * base);
-    return *count - base / 15 * (minutes - minutes / 10);
+    if (const auto packed = PackedTimecode::pack(timecode)) return count(*packed);
+    const auto all = frames(timecode, counting.fps);
+    return all && counting.dropsFrames ? withoutDropped(*all) : all;
 }
 
-std::optional<std::int64_t> FrameCounter::countAll(std::string_view timecode) const {
-    if (usualBase != 0) {
-        if (const auto packed = PackedTimecode::pack(timecode)) return packed->count(usualBase);
-    }
-    return frames(timecode, counting.fps);
+std::int64_t FrameCounter::countAtUnusualRate(PackedTimecode timecode) const {
+    std::array<char, twoDigitLength> text;
+    timecode.write(text);
+    return frames({text.data(), text.size()}, counting.fps).value();
+}
+
+std::int64_t FrameCounter::withoutDropped(std::int64_t count) const {
+    const std::int64_t base = frameBase(counting.fps);
+    const std::int64_t minutes = count / (60 * base);
+    return count - base / 15 * (minutes - minutes / 10);
 }
 
 }  // namespace clipvane::diff

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string_view>
 
+#include <clipvane/detail/PackedTimecode.h>
 #include <clipvane/diff/CutList.h>
 
 namespace clipvane::diff {
@@ -21,8 +22,15 @@ class FrameCounter {
     /// Nothing when the text is no timecode.
     std::optional<std::int64_t> count(std::string_view timecode) const;
 
+    std::int64_t count(PackedTimecode timecode) const {
+        const std::int64_t all =
+            usualBase != 0 ? timecode.count(usualBase) : countAtUnusualRate(timecode);
+        return counting.dropsFrames ? withoutDropped(all) : all;
+    }
+
   private:
-    std::optional<std::int64_t> countAll(std::string_view timecode) const;
+    std::int64_t countAtUnusualRate(PackedTimecode timecode) const;
+    std::int64_t withoutDropped(std::int64_t count) const;
 
     Counting counting;
     std::uint32_t usualBase;  ///< 0 for a rate that `PackedTimecode` does not count at

@@ -3,64 +3,104 @@
 
 #include "commands/diff/ListedEvent.h"
 
-#include <algorithm>
+#include <limits>
+#include <optional>
 
 #include "commands/diff/FrameCount.h"
 
 namespace clipvane::diff {
 namespace {
 
-bool isBlack(const EventView& event) {
-    if (event.format == "EDL") return event.reelID == "BL" || event.reelID == "BLK";
-    return event.rawText() == "gap";
+constexpr std::uint32_t none = std::numeric_limits<std::uint32_t>::max();
+
+bool isBlack(const Events& events, std::size_t row, const KeptEvent& event) {
+    if (event.isFromEDL) return event.reelID == "BL" || event.reelID == "BLK";
+    return events[row].rawText() == "gap";
 }
 
-/// The numbers of a column in which a text is mostly that of the row above.
-class LatestNumber {
+/// Reads the times of one list's events.
+class TimeReader {
   public:
-    explicit LatestNumber(TextNumbers& numbers) : numbers(numbers) {}
+    TimeReader(const CutList& list, TextNumbers& texts)
+        : events(list.events), counter(list.counting), texts(texts) {}
 
-    /// The text must outlive the next call.
-    std::uint32_t of(std::string_view text) {
-        if (text != latest) {
-            number = numbers.of(text);
-            latest = text;
+    /// Sets kind and times, and tells whether the event is odd.
+    bool read(const KeptEvent& from, CutEvent& event) const {
+        const auto& [sourceIn, sourceOut, recordIn, recordOut] = from.timecodes;
+        const bool areTimes = set(event.sourceIn, sourceIn) && set(event.sourceOut, sourceOut) &&
+                              set(event.recordIn, recordIn) && set(event.recordOut, recordOut);
+        if (!areTimes || event.recordOut < event.recordIn) {
+            event.sourceIn = event.sourceOut = event.recordIn = event.recordOut = 0;
+            event.kind = Kind::odd;
+            return true;
         }
-        return number;
+        const std::int64_t length = subtractChecked(event.recordOut, event.recordIn);
+        if (length == 0) {
+            event.kind = Kind::point;
+        } else if (length != subtractChecked(event.sourceOut, event.sourceIn)) {
+            event.kind = Kind::whole;
+        }
+        return false;
+    }
+
+    /// A number for the text of a timecode. What is packed has a text of its own, which no other
+    /// is equivalent to.
+    std::uint32_t textNumber(RowTimecode timecode) const {
+        constexpr std::uint32_t unusual = 0x8000'0000;
+        if (timecode.isPacked()) return timecode.packed().bits();
+        return unusual | texts.of(events.unusualText(timecode));
     }
 
   private:
-    TextNumbers& numbers;
-    std::string_view latest;
-    std::uint32_t number = 0;  // of the empty text
+    bool set(std::int64_t& time, RowTimecode timecode) const {
+        if (timecode.isPacked()) {
+            time = counter.count(timecode.packed());
+            return true;
+        }
+        const auto count = counter.count(events.unusualText(timecode));
+        time = count.value_or(0);
+        return count.has_value();
+    }
+
+    const Events& events;
+    FrameCounter counter;
+    TextNumbers& texts;
 };
 
 }  // namespace
 
-ListedEvents listEvents(const CutList& list, TextNumbers& numbers) {
+std::uint32_t TrackNumbers::of(std::string_view text) {
+    if (!tracks.empty() && text == latest) return latestNumber;
+    const std::uint32_t key = texts.of(text);
+    if (key >= numbers.size()) numbers.resize(key + std::size_t{1}, none);
+    if (numbers[key] == none) {
+        numbers[key] = static_cast<std::uint32_t>(tracks.size());
+        tracks.emplace_back(text);
+    }
+    latest = text;
+    latestNumber = numbers[key];
+    return latestNumber;
+}
+
+ListedEvents listEvents(const CutList& list, TextNumbers& texts, TrackNumbers& tracks) {
     ListedEvents listed;
-    listed.events.reserve(list.events.size());
-    const FrameCounter counter(list.counting);
-    LatestNumber tracks(numbers);
-    std::uint32_t row = 0;
-    for (const auto& event : list.events) {
-        const std::uint32_t here = row++;
-        listed.isFromEDL = listed.isFromEDL && event.format == "EDL";
-        if (isBlack(event)) continue;
-        ListedEvent& result = listed.events.emplace_back();
-        result.row = here;
-        result.reel = numbers.of(event.reelID);
-        result.name = numbers.of(givenName(event.clipName, event.eventNumber));
+    listed.cut.reserve(list.events.size());
+    const TimeReader times(list, texts);
+    for (std::size_t row = 0; row < list.events.size(); ++row) {
+        const KeptEvent event = list.events.kept(row);
+        listed.isFromEDL = listed.isFromEDL && event.isFromEDL;
+        if (isBlack(list.events, row, event)) continue;
+        CutEvent& result = listed.cut.emplace_back();
+        result.row = static_cast<std::uint32_t>(row);
         result.track = tracks.of(event.track);
-        const std::array<std::string_view, 4> texts{event.sourceIn, event.sourceOut, event.recordIn,
-                                                    event.recordOut};
-        std::ranges::transform(texts, result.times.begin(),
-                               [&](std::string_view text) { return counter.count(text); });
-        const auto& times = result.times;
-        const bool isOdd = !std::ranges::all_of(times, [](const auto& t) { return t.has_value(); });
-        if (isOdd || *times[3] < *times[2]) {
-            std::ranges::transform(texts, result.timecodes.begin(),
-                                   [&](std::string_view text) { return numbers.of(text); });
+        result.reel = texts.of(event.reelID);
+        result.name = texts.of(givenName(event.clipName, event.eventNumber));
+        if (times.read(event, result)) {
+            OddTimecodes& odd = listed.odd.emplace_back();
+            odd.event = listed.cut.size() - 1;
+            for (std::size_t i = 0; i < odd.texts.size(); ++i) {
+                odd.texts[i] = times.textNumber(event.timecodes[i]);
+            }
         }
     }
     return listed;
@@ -74,8 +114,8 @@ std::string_view givenName(std::string_view clipName, std::string_view eventNumb
 }
 
 bool isFromEDL(const CutList& list) {
-    for (const auto& event : list.events) {
-        if (event.format != "EDL") return false;
+    for (std::size_t row = 0; row < list.events.size(); ++row) {
+        if (!list.events.kept(row).isFromEDL) return false;
     }
     return true;
 }

@@ -4,34 +4,49 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
-#include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
 #include <clipvane/diff/CutList.h>
+#include "commands/diff/CutEvent.h"
 #include "commands/diff/TextNumbers.h"
 
 namespace clipvane::diff {
 
-/// What the comparison reads of an event. Texts are numbers (commands/diff/TextNumbers.h).
-struct ListedEvent {
-    std::uint32_t row = 0;
-    std::uint32_t reel = 0;
-    std::uint32_t name = 0;  ///< 0 where "Clip" and the event's number stand in for a name
-    std::uint32_t track = 0;
-    std::array<std::uint32_t, 4> timecodes{};          ///< as texts, only where one is none
-    std::array<std::optional<std::int64_t>, 4> times;  ///< source in and out, record in and out
+/// Gives the texts of tracks numbers from 0, in the order in which they come.
+class TrackNumbers {
+  public:
+    /// The text must outlive the numbers.
+    std::uint32_t of(std::string_view text);
+
+    const std::vector<std::string>& all() const { return tracks; }
+
+  private:
+    std::string_view latest;  // a track is mostly that of the row above
+    std::uint32_t latestNumber = 0;
+    TextNumbers texts;
+    std::vector<std::uint32_t> numbers;  // by the text's number; none for one that is no track yet
+    std::vector<std::string> tracks;
 };
 
-/// The events of a list that take part.
+/// The four timecodes of an odd event: equal numbers mean equal texts.
+struct OddTimecodes {
+    std::size_t event = 0;  ///< index into the cut
+    std::array<std::uint32_t, 4> texts{};
+};
+
+/// The events of a list that take part, row by row, without source and content.
 struct ListedEvents {
-    std::vector<ListedEvent> events;
+    Cut cut;
+    std::vector<OddTimecodes> odd;
     bool isFromEDL = true;  ///< all of the list, what takes no part among it
 };
 
 /// Lists all events but black, which is reel BL or BLK in an EDL, and a gap in an XML timeline.
-ListedEvents listEvents(const CutList& list, TextNumbers& numbers);
+ListedEvents listEvents(const CutList& list, TextNumbers& texts, TrackNumbers& tracks);
 
 /// The event's name; empty where "Clip" and the event's number stand in for one.
 std::string_view givenName(std::string_view clipName, std::string_view eventNumber);

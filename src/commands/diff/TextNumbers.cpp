@@ -6,6 +6,9 @@
 #include <unicode/bytestream.h>
 #include <unicode/normalizer2.h>
 
+#include <cstring>
+#include <utility>
+
 #include "base/UTF8.h"
 
 namespace clipvane::diff {
@@ -24,21 +27,70 @@ std::string normalized(std::string_view text) {
     return U_SUCCESS(error) ? result : std::string(text);
 }
 
+/// Eight bytes at a time: a list asks for two texts an event, most of them short.
+std::uint32_t hashOf(std::string_view text) {
+    constexpr std::size_t step = sizeof(std::uint64_t);
+    std::uint64_t hash = text.size();
+    const auto mix = [&](const char* from, std::size_t size) {
+        std::uint64_t bytes = 0;
+        std::memcpy(&bytes, from, size);
+        hash = (hash ^ bytes) * 0x9E37'79B9'7F4A'7C15;
+        hash ^= hash >> 32;
+    };
+    if (text.size() < step) {
+        mix(text.data(), text.size());
+    } else {
+        const char* const last = text.data() + text.size() - step;
+        for (const char* from = text.data(); from < last; from += step) mix(from, step);
+        mix(last, step);
+    }
+    return static_cast<std::uint32_t>(hash);
+}
+
 }  // namespace
 
 std::uint32_t TextNumbers::of(std::string_view text) {
-    if (const auto found = numbers.find(text); found != numbers.end()) return found->second;
+    if (text.empty()) return 0;
+    const std::uint32_t hash = hashOf(text);
+    const Known& known = table[placeOf(text, hash)];
+    if (!known.text.empty()) return known.number;
     const std::uint32_t number = numberOfNew(text);
-    numbers.emplace(text, number);
+    add({text, hash, number});
     return number;
+}
+
+/// Where the text is in the table, or where it would be.
+std::size_t TextNumbers::placeOf(std::string_view text, std::uint32_t hash) const {
+    const std::size_t mask = table.size() - 1;
+    for (std::size_t place = hash & mask;; place = (place + 1) & mask) {
+        const Known& known = table[place];
+        if (known.text.empty() || (known.hash == hash && known.text == text)) return place;
+    }
+}
+
+/// Adds a text that is not known, unless it has come in by its own normalization.
+void TextNumbers::add(const Known& known) {
+    if (2 * (count + 1) > table.size()) {
+        const auto old = std::exchange(table, std::vector<Known>(2 * table.size()));
+        for (const Known& one : old) {
+            if (!one.text.empty()) table[placeOf(one.text, one.hash)] = one;
+        }
+    }
+    Known& place = table[placeOf(known.text, known.hash)];
+    if (place.text.empty()) ++count;
+    place = known;
 }
 
 /// The number of a text that has none in this spelling.
 std::uint32_t TextNumbers::numberOfNew(std::string_view text) {
     if (isASCII(text)) return next++;
-    const auto [equal, isNew] = numbers.try_emplace(normalized(text), next);
-    if (isNew) ++next;
-    return equal->second;
+    std::string usual = normalized(text);
+    const std::uint32_t hash = hashOf(usual);
+    const Known& known = table[placeOf(usual, hash)];
+    if (!known.text.empty()) return known.number;
+    normalizedTexts.push_back(std::move(usual));
+    add({normalizedTexts.back(), hash, next});
+    return next++;
 }
 
 bool areEquivalent(std::string_view a, std::string_view b) {

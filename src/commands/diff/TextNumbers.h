@@ -3,28 +3,36 @@
 
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
-#include <functional>
+#include <deque>
 #include <string>
 #include <string_view>
-#include <unordered_map>
+#include <vector>
 
 namespace clipvane::diff {
 
 /// Gives texts numbers: equal ones for canonically equivalent texts. The empty text is 0. Texts are
-/// UTF-8.
+/// UTF-8, and must outlive the numbers.
 class TextNumbers {
   public:
     std::uint32_t of(std::string_view text);
 
   private:
-    struct Hash : std::hash<std::string_view> {
-        using is_transparent = void;
+    /// A text in one of its spellings; the empty one where a place in the table is free.
+    struct Known {
+        std::string_view text;
+        std::uint32_t hash = 0;
+        std::uint32_t number = 0;
     };
 
+    std::size_t placeOf(std::string_view text, std::uint32_t hash) const;
+    void add(const Known& known);
     std::uint32_t numberOfNew(std::string_view text);
 
-    std::unordered_map<std::string, std::uint32_t, Hash, std::equal_to<>> numbers{{"", 0}};
+    std::vector<Known> table = std::vector<Known>(64);  // a power of two, at most half full
+    std::size_t count = 0;
+    std::deque<std::string> normalizedTexts;
     std::uint32_t next = 1;
 };
 

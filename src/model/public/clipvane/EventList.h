@@ -27,6 +27,17 @@ class FileBytes;
 struct FoundEvent;
 class FoundTimecode;
 
+/// An event as its list keeps it, where timecodes of the usual form are no texts: for whoever
+/// counts the frames of many. Its views are good as long as those of an `EventView`.
+struct KeptEvent {
+    std::string_view eventNumber;
+    std::string_view clipName;
+    std::string_view reelID;
+    std::string_view track;
+    std::array<RowTimecode, 4> timecodes;  ///< source in and out, record in and out
+    bool isFromEDL = false;
+};
+
 /// The events of a timeline, in order, as rows over the file's own text, which the list keeps. A
 /// million events take 60 MB beside the text, and removing one moves four bytes for each behind it.
 ///
@@ -51,6 +62,13 @@ class EventList {
     bool empty() const { return shown.empty(); }
     /// The event at `row`, which must be less than `size()`.
     EventView operator[](std::size_t row) const { return {*this, shown[row]}; }
+
+    /// The same event, without a text of each timecode.
+    KeptEvent kept(std::size_t row) const;
+    /// The text of a timecode that is not packed.
+    std::string_view unusualText(RowTimecode timecode) const {
+        return timecode.isEmpty() ? std::string_view() : oddTimecodes[timecode.textNumber()];
+    }
 
     class Iterator;
     Iterator begin() const;
@@ -92,6 +110,7 @@ class EventList {
     std::uint32_t addRow(const TimelineEvent& event);
     void placeTexts(EventRow& row, std::uint32_t index, const FoundEvent& event);
     RowTimecode keepOdd(std::string_view timecode);
+    std::array<std::string_view, 4> columnsOf(std::uint32_t index) const;
     std::string_view timecodeText(RowTimecode timecode, std::span<char, twoDigitLength> room) const;
     void forget(std::uint32_t index) noexcept;
 
@@ -106,6 +125,24 @@ class EventList {
     BlockVector<std::string> oddTimecodes;  // by the number that a `RowTimecode` has
     mutable LazyIdentifiers identifiers;
 };
+
+inline std::array<std::string_view, 4> EventList::columnsOf(std::uint32_t index) const {
+    const EventRow& row = rows[index];
+    if (row.isWide) return wideTexts.at(index).columns;
+    return {row.columns[0].of(row.texts), row.columns[1].of(row.texts),
+            row.columns[2].of(row.texts), row.columns[3].of(row.texts)};
+}
+
+inline KeptEvent EventList::kept(std::size_t row) const {
+    const std::uint32_t index = shown[row];
+    const auto columns = columnsOf(index);
+    return {columns[0],
+            columns[1],
+            columns[2],
+            columns[3],
+            rows[index].timecodes,
+            rows[index].format == EventRow::Format::edl};
+}
 
 /// Goes through a list. It makes a new view each time.
 class EventList::Iterator {

@@ -10,8 +10,7 @@
 // What the comparison of two cuts (clipvane/diff/CutDiff.h) is given.
 namespace clipvane::diff {
 
-/// What holds a list's events. Nothing here needs more of it than a size and events by row, and of
-/// an event its texts.
+/// What holds a list's events. Nothing here needs more of it than a size and events by row.
 using Events = EventList;
 
 /// How a list's timecodes are counted.
