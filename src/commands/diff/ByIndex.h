@@ -25,9 +25,10 @@ std::vector<T> sortedByIndex(std::vector<T> all, std::size_t count, IndexOf inde
         all = std::move(sorted);
     }
     for (auto first = all.begin(); first != all.end();) {
-        const auto last = std::find_if(
-            first, all.end(), [&](const T& one) { return indexOf(one) != indexOf(*first); });
-        if (!std::is_sorted(first, last, less)) std::sort(first, last, less);
+        auto last = first + 1;
+        while (last != all.end() && indexOf(*last) == indexOf(*first)) ++last;
+        const bool isAlone = last - first == 1;
+        if (!isAlone && !std::is_sorted(first, last, less)) std::sort(first, last, less);
         first = last;
     }
     return all;

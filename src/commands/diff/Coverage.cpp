@@ -4,7 +4,6 @@
 #include "commands/diff/Coverage.h"
 
 #include <algorithm>
-#include <tuple>
 #include <utility>
 
 #include "base/Number.h"
@@ -18,10 +17,11 @@ Coverage::Coverage(std::vector<AxisStretch> stretches) {
     stretches = sortedByIndex(
         std::move(stretches), axes, [](const AxisStretch& s) { return s.axis; },
         [](const AxisStretch& a, const AxisStretch& b) { return a.from < b.from; });
+    starts.resize(axes + std::size_t{1});
     for (const AxisStretch& next : stretches) {
         const bool continues = !parts.empty() && parts.back().stretch.axis == next.axis;
         if (!continues) {
-            parts.push_back({next, 0});
+            add({next, 0});
             continue;
         }
         Part& last = parts.back();
@@ -29,22 +29,30 @@ Coverage::Coverage(std::vector<AxisStretch> stretches) {
             last.stretch.to = std::max(last.stretch.to, next.to);
         } else {
             const std::int64_t length = subtractChecked(last.stretch.to, last.stretch.from);
-            parts.push_back({next, addChecked(last.before, length)});
+            add({next, addChecked(last.before, length)});
         }
     }
+    for (std::uint32_t axis = 0; axis < axes; ++axis) starts[axis + 1] += starts[axis];
+}
+
+void Coverage::add(const Part& part) {
+    parts.push_back(part);
+    ++starts[part.stretch.axis + 1];
 }
 
 std::int64_t Coverage::within(const AxisStretch& stretch) const {
-    return upTo(stretch.axis, stretch.to) - upTo(stretch.axis, stretch.from);
+    if (stretch.axis + std::size_t{1} >= starts.size()) return 0;
+    const std::span ofAxis(parts.begin() + starts[stretch.axis],
+                           parts.begin() + starts[stretch.axis + 1]);
+    if (ofAxis.empty()) return 0;
+    return upTo(ofAxis, stretch.to) - upTo(ofAxis, stretch.from);
 }
 
-std::int64_t Coverage::upTo(std::uint32_t axis, std::int64_t position) const {
+std::int64_t Coverage::upTo(std::span<const Part> ofAxis, std::int64_t position) {
     const auto behind = std::ranges::upper_bound(
-        parts, std::tuple(axis, position), {},
-        [](const Part& part) { return std::tuple(part.stretch.axis, part.stretch.from); });
-    if (behind == parts.begin()) return 0;
+        ofAxis, position, {}, [](const Part& part) { return part.stretch.from; });
+    if (behind == ofAxis.begin()) return 0;
     const Part& part = *(behind - 1);
-    if (part.stretch.axis != axis) return 0;
     const std::int64_t end = std::min(position, part.stretch.to);
     return addChecked(part.before, subtractChecked(end, part.stretch.from));
 }

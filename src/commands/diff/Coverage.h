@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <vector>
 
 namespace clipvane::diff {
@@ -29,9 +30,11 @@ class Coverage {
         std::int64_t before;  // how much of its axis the parts before it cover
     };
 
-    std::int64_t upTo(std::uint32_t axis, std::int64_t position) const;
+    void add(const Part& part);
+    static std::int64_t upTo(std::span<const Part> ofAxis, std::int64_t position);
 
-    std::vector<Part> parts;  // by axis, then position; they do not touch
+    std::vector<Part> parts;            // by axis, then position; they do not touch
+    std::vector<std::uint32_t> starts;  // where each axis' parts begin; one more at the end
 };
 
 }  // namespace clipvane::diff

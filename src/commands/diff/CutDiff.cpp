@@ -121,7 +121,9 @@ CutDiff compareCuts(const CutList& oldList, const CutList& newList, std::optiona
     findReplacements(pair.oldCut, chains, diff.oldEvents, diff.newEvents);
     diff.paired = pairedStretches(pair, runs);
     diff.report = makeReport(pair.oldCut, chains, black, diff.newEvents, diff.oldEvents);
-    std::erase_if(diff.report, [&](const ReportLine& line) { return !isChosen[line.track]; });
+    if (!onlyTracks.empty()) {
+        std::erase_if(diff.report, [&](const ReportLine& line) { return !isChosen[line.track]; });
+    }
     diff.sums = Adder(pair, isChosen).add(diff.newEvents, diff.oldEvents);
     return diff;
 }

@@ -27,7 +27,8 @@ std::vector<Stretch> pairedOfNew(const std::vector<Run>& runs);
 /// The parts of a cut that are not paired yet: longest stretches, by event, then position.
 class FreeStretches {
   public:
-    explicit FreeStretches(const Cut& cut);
+    /// All of the cut but `taken`, by event, then position.
+    FreeStretches(const Cut& cut, std::span<const Stretch> taken);
 
     /// Takes away `taken`: parts of the free stretches in the same order, each within one.
     void take(std::span<const Stretch> taken);

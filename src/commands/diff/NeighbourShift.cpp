@@ -9,7 +9,7 @@
 namespace clipvane::diff {
 namespace {
 
-/// Walks over runs and free stretches in one order and keeps each track's latest shift.
+/// Walks over runs and free stretches in one order and keeps each track's latest run.
 class Walk {
   public:
     Walk(const Cut& oldCut, const Cut& newCut) : oldCut(oldCut), newCut(newCut) {
@@ -20,16 +20,18 @@ class Walk {
 
     void pass(const Run& run) {
         const CutEvent& event = newCut[run.newEvent];
-        if (event.hasFrames()) latest[event.track] = shiftBetween(oldCut[run.oldEvent], event);
+        if (event.hasFrames()) latest[event.track] = &run;
     }
     std::optional<std::int64_t> shiftAt(const Stretch& stretch) const {
-        return latest[newCut[stretch.event].track];
+        const Run* const run = latest[newCut[stretch.event].track];
+        if (run == nullptr) return std::nullopt;
+        return shiftBetween(oldCut[run->oldEvent], newCut[run->newEvent]);
     }
 
   private:
     const Cut& oldCut;
     const Cut& newCut;
-    std::vector<std::optional<std::int64_t>> latest;
+    std::vector<const Run*> latest;  // of each track
 };
 
 bool isBefore(const Run& run, const Stretch& stretch) {

@@ -31,14 +31,13 @@ std::vector<Run> inNewOrder(std::vector<Run> runs, const Cut& newCut) {
 
 class Rounds {
   public:
+    /// Begins with the two rounds that need no look at what is free.
     Rounds(const Cut& oldCut, const Cut& newCut)
-        : oldCut(oldCut), newCut(newCut), oldFree(oldCut), newFree(newCut) {}
-
-    void pairSurely() {
-        SureRounds sure(oldCut, newCut);
-        keep(sure.pairUnchanged());
-        keep(sure.pairUnique());
-    }
+        : oldCut(oldCut),
+          newCut(newCut),
+          runs(inNewOrder(pairSurely(oldCut, newCut), newCut)),
+          oldFree(oldCut, pairedOfOld(runs, oldCut.size())),
+          newFree(newCut, pairedOfNew(runs)) {}
 
     /// At the shift of the nearest paired frame.
     void pairBeside(Neighbour neighbour) {
@@ -70,19 +69,21 @@ class Rounds {
         pair(all(oldCut, oldFree, tracks), all(newCut, newFree, tracks));
     }
 
+    /// All runs, of which neighbours become one.
     std::vector<Run> result() && {
-        std::vector<Run> joined;
-        for (const Run& run : runs) {
-            const bool continues = !joined.empty() && joined.back().newEvent == run.newEvent &&
-                                   joined.back().oldEvent == run.oldEvent &&
-                                   joined.back().to == run.from;
+        if (runs.empty()) return {};
+        auto last = runs.begin();
+        for (auto next = last + 1; next != runs.end(); ++next) {
+            const bool continues = last->newEvent == next->newEvent &&
+                                   last->oldEvent == next->oldEvent && last->to == next->from;
             if (continues) {
-                joined.back().to = run.to;
+                last->to = next->to;
             } else {
-                joined.push_back(run);
+                *++last = *next;
             }
         }
-        return joined;
+        runs.erase(last + 1, runs.end());
+        return std::move(runs);
     }
 
   private:
@@ -136,10 +137,6 @@ class Rounds {
         found = inNewOrder(std::move(found), newCut);
         oldFree.take(pairedOfOld(found, oldCut.size()));
         newFree.take(pairedOfNew(found));
-        if (runs.empty()) {
-            runs = std::move(found);
-            return;
-        }
         const auto middle = static_cast<std::ptrdiff_t>(runs.size());
         runs.insert(runs.end(), found.begin(), found.end());
         std::inplace_merge(runs.begin(), runs.begin() + middle, runs.end(), comesBefore);
@@ -147,16 +144,15 @@ class Rounds {
 
     const Cut& oldCut;
     const Cut& newCut;
+    std::vector<Run> runs;  // by event of NEW, then position
     FreeStretches oldFree;
     FreeStretches newFree;
-    std::vector<Run> runs;  // by event of NEW, then position
 };
 
 }  // namespace
 
 std::vector<Run> pairFrames(const Cut& oldCut, const Cut& newCut) {
     Rounds rounds(oldCut, newCut);
-    rounds.pairSurely();
     rounds.pairBeside(Neighbour::before);
     rounds.pairBeside(Neighbour::behind);
     for (const Tracks tracks : {Tracks::same, Tracks::any}) {

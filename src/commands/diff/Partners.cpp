@@ -37,19 +37,18 @@ std::vector<Partnership> sharedBy(const std::vector<Run>& runs, const Cut& newCu
         [](const Partnership& a, const Partnership& b) {
             return std::tuple(a.oldEvent, a.from) < std::tuple(b.oldEvent, b.from);
         });
-    std::vector<Partnership> merged;
-    merged.reserve(shared.size());
+    std::size_t merged = 0;
     for (const Partnership& p : shared) {
-        const bool isSame = !merged.empty() && merged.back().newEvent == p.newEvent &&
-                            merged.back().oldEvent == p.oldEvent;
-        if (isSame) {
-            merged.back().frames += p.frames;
-            merged.back().to = p.to;
+        Partnership* const last = merged == 0 ? nullptr : &shared[merged - 1];
+        if (last != nullptr && last->newEvent == p.newEvent && last->oldEvent == p.oldEvent) {
+            last->frames += p.frames;
+            last->to = p.to;
         } else {
-            merged.push_back(p);
+            shared[merged++] = p;
         }
     }
-    return merged;
+    shared.resize(merged);
+    return shared;
 }
 
 class Finder {
@@ -57,19 +56,23 @@ class Finder {
     Finder(const Cut& oldCut, const Cut& newCut, const std::vector<Run>& runs)
         : oldCut(oldCut), newCut(newCut), shared(sharedBy(runs, newCut)) {}
 
-    Partners find() {
-        findBest();
-        std::vector<Partnership> all;
-        all.reserve(shared.size());
-        for (const Partnership& p : shared) {
-            if (arePartners(p)) all.push_back(p);
+    Partners find() && {
+        std::vector<bool> isPartnership(shared.size());
+        for (std::size_t i = 0; i < shared.size(); ++i) {
+            isPartnership[i] = arePartners(shared[i]);
         }
+        std::vector<Partnership> all = std::move(shared);
+        std::size_t kept = 0;
+        for (std::size_t i = 0; i < all.size(); ++i) {
+            if (isPartnership[i]) all[kept++] = all[i];
+        }
+        all.resize(kept);
         addRetimed(all);
         return arranged(std::move(all));
     }
 
   private:
-    bool arePartners(const Partnership& p) const {
+    bool arePartners(const Partnership& p) {
         const CutEvent& o = oldCut[p.oldEvent];
         const CutEvent& n = newCut[p.newEvent];
         const std::int64_t both =
@@ -77,6 +80,7 @@ class Finder {
         const auto isHalfOf = [&](std::int64_t whole) { return p.frames >= whole - p.frames; };
         if (!isHalfOf(both)) return false;
         if (isHalfOf(std::min(o.frames(), n.frames()))) return true;
+        findBest();
         return bestOfNew[p.newEvent] == &p && bestOfOld[p.oldEvent] == &p;
     }
 
@@ -90,6 +94,7 @@ class Finder {
 
     /// Looks at the shared in the order of NEW, then OLD, so that the earliest stays the best.
     void findBest() {
+        if (!bestOfNew.empty()) return;
         bestOfNew.assign(newCut.size(), nullptr);
         bestOfOld.assign(oldCut.size(), nullptr);
         for (const Partnership& p : shared) {
@@ -135,7 +140,7 @@ class Finder {
     const Cut& oldCut;
     const Cut& newCut;
     std::vector<Partnership> shared;
-    std::vector<const Partnership*> bestOfNew;
+    std::vector<const Partnership*> bestOfNew;  // empty until somebody asks, as is the next
     std::vector<const Partnership*> bestOfOld;
 };
 

@@ -68,9 +68,13 @@ std::span<const InSlot> inSlot(const std::vector<InSlot>& events, Slot slot) {
 /// Collects the lines of each track.
 class Lines {
   public:
-    Lines(const std::vector<std::vector<InSlot>>& left, std::size_t tracks)
-        : left(left), lines(tracks), orders(tracks) {
-        for (Index track = 0; track < tracks; ++track) addLeft(track, 0);
+    Lines(const std::vector<std::vector<InSlot>>& left, const std::vector<TrackChain>& chains)
+        : left(left), hasLeft(chains.size()), lines(chains.size()), orders(chains.size()) {
+        for (Index track = 0; track < chains.size(); ++track) {
+            hasLeft[track].resize(chains[track].chain.size() + 1);
+            for (const InSlot& one : left[track]) hasLeft[track][one.slot] = true;
+            addLeft(track, 0);
+        }
     }
 
     void beginEvent(Index track) { ++orders[track]; }
@@ -80,12 +84,14 @@ class Lines {
     }
 
     void addLeft(Index track, Slot slot) {
+        if (!hasLeft[track][slot]) return;
         for (const InSlot& one : inSlot(left[track], slot)) {
             add(ReportLine::Kind::ofOld, track, one.event);
         }
     }
 
     std::vector<ReportLine> result() && {
+        if (lines.size() == 1) return std::move(lines.front());
         std::vector<ReportLine> all;
         for (const auto& track : lines) all.insert(all.end(), track.begin(), track.end());
         return all;
@@ -93,6 +99,7 @@ class Lines {
 
   private:
     const std::vector<std::vector<InSlot>>& left;
+    std::vector<std::vector<bool>> hasLeft;  // by slot: behind most of the chain nothing is left
     std::vector<std::vector<ReportLine>> lines;
     std::vector<Index> orders;  // of each track's latest event
 };
@@ -135,7 +142,7 @@ std::vector<ReportLine> makeReport(const Cut& oldCut, const std::vector<TrackCha
     for (auto& track : changes) std::ranges::stable_sort(track, {}, &BlackChange::before);
     std::vector<std::size_t> nextChange(chains.size());
 
-    Lines lines(left, chains.size());
+    Lines lines(left, chains);
     for (Index n = 0; n < newEvents.size(); ++n) {
         const NewEvent& event = newEvents[n];
         const Index track = event.track;

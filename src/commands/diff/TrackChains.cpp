@@ -4,6 +4,7 @@
 #include "commands/diff/TrackChains.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace clipvane::diff {
 namespace {
@@ -26,11 +27,23 @@ Link makeLink(const Partnership& p, const CutEvent& oldEvent, const CutEvent& ne
     return link;
 }
 
+/// The links with these indices.
+std::vector<Link> chosen(std::vector<Link> links, const std::vector<std::uint32_t>& indices) {
+    if (indices.size() == links.size() && std::ranges::is_sorted(indices)) return links;
+    std::vector<Link> some;
+    some.reserve(indices.size());
+    for (const std::uint32_t i : indices) some.push_back(links[i]);
+    return some;
+}
+
 }  // namespace
 
 std::vector<TrackChain> findTrackChains(const Cut& oldCut, const Cut& newCut,
                                         const Partners& partners, std::size_t trackCount) {
+    std::vector<std::size_t> events(trackCount);
+    for (const CutEvent& event : newCut) ++events[event.track];
     std::vector<std::vector<Link>> links(trackCount);
+    for (std::size_t track = 0; track < trackCount; ++track) links[track].reserve(events[track]);
     for (std::uint32_t n = 0; n < newCut.size(); ++n) {
         const auto all = partners.ofNew(n);
         if (all.empty() || !newCut[n].hasPlace()) continue;
@@ -43,10 +56,10 @@ std::vector<TrackChain> findTrackChains(const Cut& oldCut, const Cut& newCut,
     for (std::size_t track = 0; track < trackCount; ++track) {
         const auto chain = findChain(links[track]);
         const auto isMoved = findMoved(links[track], chain);
-        for (const std::uint32_t i : chain) chains[track].chain.push_back(links[track][i]);
         for (std::size_t i = 0; i < isMoved.size(); ++i) {
             if (isMoved[i]) chains[track].moved.push_back(links[track][i].event);
         }
+        chains[track].chain = chosen(std::move(links[track]), chain);
     }
     return chains;
 }

@@ -51,8 +51,13 @@ class Finder {
 
   private:
     void lookInside(std::uint32_t n) {
+        const auto parts = partners.ofNew(n);
+        if (parts.size() == 1) {
+            lastPart[n] = parts.front().oldEvent;
+            return;
+        }
         Reach reach;
-        for (const Partnership& part : partners.ofNew(n)) {
+        for (const Partnership& part : parts) {
             if (part.isRetimed) return;
             const std::int64_t gap = reach.add(oldCut[part.oldEvent], part.oldEvent);
             trims[n].inside = addChecked(trims[n].inside, gap);
@@ -63,16 +68,33 @@ class Finder {
     void lookAtPieces(std::uint32_t o) {
         const auto pieces = partners.ofOld(o);
         if (pieces.empty() || pieces.front().isRetimed) return;
+        if (pieces.size() == 1) {
+            const std::uint32_t n = pieces.front().newEvent;
+            if (partners.ofNew(n).front().oldEvent == o) lookAtHead(o, n);
+            if (lastPart[n] == o) lookAtTail(o, n);
+            return;
+        }
         Reach reach;
         for (const Partnership& piece : pieces) {
             const std::uint32_t n = piece.newEvent;
             const std::int64_t gap = reach.add(newCut[n], n);
             if (partners.ofNew(n).front().oldEvent != o) continue;
             const bool isFirst = n == pieces.front().newEvent;
-            trims[n].head = isFirst ? oldCut[o].from() - newCut[n].from() : -gap;
+            if (isFirst) {
+                lookAtHead(o, n);
+            } else {
+                trims[n].head = -gap;
+            }
         }
         const std::uint32_t last = reach.furthestPiece();
-        if (lastPart[last] == o) trims[last].tail = newCut[last].to() - oldCut[o].to();
+        if (lastPart[last] == o) lookAtTail(o, last);
+    }
+
+    void lookAtHead(std::uint32_t o, std::uint32_t n) {
+        trims[n].head = oldCut[o].from() - newCut[n].from();
+    }
+    void lookAtTail(std::uint32_t o, std::uint32_t n) {
+        trims[n].tail = newCut[n].to() - oldCut[o].to();
     }
 
     const Cut& oldCut;

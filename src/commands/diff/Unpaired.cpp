@@ -3,8 +3,6 @@
 
 #include "commands/diff/Unpaired.h"
 
-#include <algorithm>
-
 #include "commands/diff/Coverage.h"
 
 namespace clipvane::diff {
@@ -15,18 +13,12 @@ namespace {
 Coverage usesOf(const Cut& other, const Cut& cut, const std::vector<Stretch>& free) {
     std::vector<AxisStretch> asked;
     asked.reserve(free.size());
-    std::uint32_t contents = 0;
     for (const Stretch& stretch : free) {
-        const std::uint32_t content = cut[stretch.event].content;
-        asked.push_back({content, stretch.from, stretch.to});
-        contents = std::max(contents, content + 1);
+        asked.push_back({cut[stretch.event].content, stretch.from, stretch.to});
     }
-    std::vector<bool> isAsked(contents);
-    for (const AxisStretch& stretch : asked) isAsked[stretch.axis] = true;
     const Coverage askedAbout(std::move(asked));
     std::vector<AxisStretch> uses;
     for (const CutEvent& event : other) {
-        if (event.content >= contents || !isAsked[event.content]) continue;
         const AxisStretch use{event.content, event.from(), event.to()};
         if (askedAbout.within(use) > 0) uses.push_back(use);
     }
@@ -37,8 +29,7 @@ Coverage usesOf(const Cut& other, const Cut& cut, const std::vector<Stretch>& fr
 
 std::vector<Unpaired> countUnpaired(const Cut& cut, const std::vector<Stretch>& paired,
                                     const Cut& other) {
-    FreeStretches free(cut);
-    free.take(paired);
+    const FreeStretches free(cut, paired);
     const Coverage uses = usesOf(other, cut, free.stretches());
     std::vector<Unpaired> all(cut.size());
     for (const Stretch& stretch : free.stretches()) {
