@@ -45,7 +45,7 @@ class Recipes(ProgramTest):
                     self.assertEqual((done.returncode, done.stderr), (0, ""))
                 printed = done.stdout
         self.assertIsNone(printed)
-        self.assertGreaterEqual(recipes, 9)
+        self.assertGreaterEqual(recipes, 13)
 
 
 if __name__ == "__main__":
