@@ -20,8 +20,7 @@ struct BlackChange {
 
 /// The changes of black, what no event of a track covers, between neighbours on each track's chain;
 /// by track, in the chain's order.
-std::vector<std::vector<BlackChange>> findBlackChanges(const Cut& oldCut, const Cut& newCut,
-                                                       const Partners& partners,
+std::vector<std::vector<BlackChange>> findBlackChanges(const PartneredCuts& cuts,
                                                        const std::vector<TrackChain>& chains);
 
 }  // namespace clipvane::diff

@@ -108,16 +108,17 @@ CutDiff compareCuts(const CutList& oldList, const CutList& newList, std::optiona
     const CutPair pair = makeComparable(oldList, newList, by);
     const std::vector<Run> runs = pairFrames(pair.oldCut, pair.newCut);
     const Partners partners = findPartners(pair.oldCut, pair.newCut, runs);
-    const auto chains = findTrackChains(pair.oldCut, pair.newCut, partners, pair.tracks.size());
-    const auto black = findBlackChanges(pair.oldCut, pair.newCut, partners, chains);
+    const PartneredCuts cuts{pair.oldCut, pair.newCut, partners};
+    const auto chains = findTrackChains(cuts, pair.tracks.size());
+    const auto black = findBlackChanges(cuts, chains);
     const std::vector<bool> isChosen = chosen(pair, onlyTracks);
 
     CutDiff diff;
     diff.by = pair.by;
     diff.comparesTracks = pair.comparesTracks;
     diff.tracks = pair.tracks;
-    diff.newEvents = describeNew(pair.oldCut, pair.newCut, runs, partners, chains);
-    diff.oldEvents = describeOld(pair.oldCut, pair.newCut, runs, partners);
+    diff.newEvents = describeNew(cuts, runs, chains);
+    diff.oldEvents = describeOld(cuts, runs);
     findReplacements(pair.oldCut, chains, diff.oldEvents, diff.newEvents);
     diff.paired = pairedStretches(pair, runs);
     diff.report = makeReport(pair.oldCut, chains, black, diff.newEvents, diff.oldEvents);

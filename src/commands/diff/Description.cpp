@@ -3,6 +3,9 @@
 
 #include "commands/diff/Description.h"
 
+#include <cstddef>
+#include <utility>
+
 #include "commands/diff/FreeStretches.h"
 #include "commands/diff/Trims.h"
 #include "commands/diff/Unpaired.h"
@@ -20,14 +23,28 @@ Word wordForUnpartnered(const CutEvent& event, const Unpaired& unpaired, Word la
     return unpaired.lacking > 0 ? lacking : further;
 }
 
+/// Few events have unpaired frames; they are asked for in the order of the cut.
+class UnpairedInOrder {
+  public:
+    explicit UnpairedInOrder(std::vector<Unpaired> all) : all(std::move(all)) {}
+
+    Unpaired of(std::uint32_t event) {
+        if (next == all.size() || all[next].event != event) return {};
+        return all[next++];
+    }
+
+  private:
+    std::vector<Unpaired> all;
+    std::size_t next = 0;
+};
+
 class NewDescriber {
   public:
-    NewDescriber(const Cut& oldCut, const Cut& newCut, const Partners& partners,
-                 const std::vector<TrackChain>& chains)
-        : oldCut(oldCut),
-          newCut(newCut),
-          partners(partners),
-          trims(findTrims(oldCut, newCut, partners)),
+    NewDescriber(const PartneredCuts& cuts, const std::vector<TrackChain>& chains)
+        : oldCut(cuts.oldCut),
+          newCut(cuts.newCut),
+          partners(cuts.partners),
+          trims(findTrims(cuts)),
           isMoved(newCut.size()),
           pieceOf(newCut.size()) {
         for (const TrackChain& track : chains) {
@@ -35,9 +52,9 @@ class NewDescriber {
         }
         for (std::uint32_t o = 0; o < oldCut.size(); ++o) {
             std::uint32_t piece = 0;
-            for (const Partnership& p : partners.ofOld(o)) {
+            for (const std::uint32_t n : partners.ofOld(o)) {
                 ++piece;
-                if (first(p.newEvent).oldEvent == o) pieceOf[p.newEvent] = piece;
+                if (partners.first(n).oldEvent == o) pieceOf[n] = piece;
             }
         }
     }
@@ -71,12 +88,12 @@ class NewDescriber {
     }
 
   private:
-    const Partnership& first(std::uint32_t n) const { return partners.ofNew(n).front(); }
-    const CutEvent& partnerOf(std::uint32_t n) const { return oldCut[first(n).oldEvent]; }
+    const CutEvent& partnerOf(std::uint32_t n) const { return oldCut[partners.first(n).oldEvent]; }
 
     void describePieces(NewEvent& result, std::uint32_t n) const {
         result.piece = pieceOf[n];
-        result.pieces = static_cast<std::uint32_t>(partners.ofOld(first(n).oldEvent).size());
+        result.pieces =
+            static_cast<std::uint32_t>(partners.ofOld(partners.first(n).oldEvent).size());
         result.parts = static_cast<std::uint32_t>(partners.ofNew(n).size());
         if (result.pieces > 1) result.words.add(Word::split);
         if (result.parts > 1) result.words.add(Word::joined);
@@ -91,7 +108,7 @@ class NewDescriber {
     }
 
     void describeContent(NewEvent& result, std::uint32_t n) const {
-        if (first(n).isRetimed) {
+        if (partners.first(n).isRetimed()) {
             result.words.add(Word::retimed);
         } else if (isSlipped(result, n)) {
             result.words.add(Word::slipped);
@@ -133,30 +150,30 @@ class NewDescriber {
 
 }  // namespace
 
-std::vector<NewEvent> describeNew(const Cut& oldCut, const Cut& newCut,
-                                  const std::vector<Run>& runs, const Partners& partners,
+std::vector<NewEvent> describeNew(const PartneredCuts& cuts, const std::vector<Run>& runs,
                                   const std::vector<TrackChain>& chains) {
-    const auto unpaired = countUnpaired(newCut, pairedOfNew(runs), oldCut);
-    const NewDescriber describer(oldCut, newCut, partners, chains);
+    UnpairedInOrder unpaired(countUnpaired(cuts.newCut, pairedOfNew(runs), cuts.oldCut));
+    const NewDescriber describer(cuts, chains);
     std::vector<NewEvent> all;
-    all.reserve(newCut.size());
-    for (std::uint32_t n = 0; n < newCut.size(); ++n) {
-        all.push_back(describer.describe(n, unpaired[n]));
+    all.reserve(cuts.newCut.size());
+    for (std::uint32_t n = 0; n < cuts.newCut.size(); ++n) {
+        all.push_back(describer.describe(n, unpaired.of(n)));
     }
     return all;
 }
 
-std::vector<OldEvent> describeOld(const Cut& oldCut, const Cut& newCut,
-                                  const std::vector<Run>& runs, const Partners& partners) {
-    const auto unpaired = countUnpaired(oldCut, pairedOfOld(runs, oldCut.size()), newCut);
+std::vector<OldEvent> describeOld(const PartneredCuts& cuts, const std::vector<Run>& runs) {
+    const Cut& cut = cuts.oldCut;
+    UnpairedInOrder allUnpaired(countUnpaired(cut, pairedOfOld(runs, cut.size()), cuts.newCut));
     std::vector<OldEvent> all;
-    all.reserve(oldCut.size());
-    for (std::uint32_t o = 0; o < oldCut.size(); ++o) {
-        const CutEvent& event = oldCut[o];
-        OldEvent result{event.row, event.track,         event.kind,         timesOf(event),
-                        {},        unpaired[o].lacking, unpaired[o].further};
-        if (partners.ofOld(o).empty()) {
-            result.words.add(wordForUnpartnered(event, unpaired[o], Word::gone, Word::fewer));
+    all.reserve(cut.size());
+    for (std::uint32_t o = 0; o < cut.size(); ++o) {
+        const CutEvent& event = cut[o];
+        const Unpaired unpaired = allUnpaired.of(o);
+        OldEvent result{event.row,        event.track,     {}, event.kind, timesOf(event),
+                        unpaired.lacking, unpaired.further};
+        if (cuts.partners.ofOld(o).empty()) {
+            result.words.add(wordForUnpartnered(event, unpaired, Word::gone, Word::fewer));
         }
         all.push_back(result);
     }

@@ -13,12 +13,10 @@
 namespace clipvane::diff {
 
 /// Describes each event of NEW. What it stands in place of comes later (ReportOrder.h).
-std::vector<NewEvent> describeNew(const Cut& oldCut, const Cut& newCut,
-                                  const std::vector<Run>& runs, const Partners& partners,
+std::vector<NewEvent> describeNew(const PartneredCuts& cuts, const std::vector<Run>& runs,
                                   const std::vector<TrackChain>& chains);
 
 /// Describes each event of OLD.
-std::vector<OldEvent> describeOld(const Cut& oldCut, const Cut& newCut,
-                                  const std::vector<Run>& runs, const Partners& partners);
+std::vector<OldEvent> describeOld(const PartneredCuts& cuts, const std::vector<Run>& runs);
 
 }  // namespace clipvane::diff

@@ -4,7 +4,7 @@
 #include "commands/diff/Partners.h"
 
 #include <algorithm>
-#include <cstdlib>
+#include <span>
 #include <tuple>
 #include <utility>
 
@@ -29,7 +29,7 @@ std::vector<Partnership> sharedBy(const std::vector<Run>& runs, const Cut& newCu
     std::vector<Partnership> shared;
     shared.reserve(runs.size());
     for (const Run& run : runs) {
-        shared.push_back({run.newEvent, run.oldEvent, false,
+        shared.push_back({run.newEvent, run.oldEvent,
                           newCut[run.newEvent].framesOf(run.to - run.from), run.from, run.to});
     }
     shared = sortedByIndex(
@@ -117,24 +117,18 @@ class Finder {
         };
         for (const auto& [n, o] :
              pairRetimed(oldCut, newCut, free(oldCut, oldTaken), free(newCut, newTaken))) {
-            all.push_back({n, o, true, 0, 0, 0});
+            all.push_back({n, o, 0, 0, 0});
         }
     }
 
     Partners arranged(std::vector<Partnership> all) const {
-        auto byNew = sortedByIndex(
+        all = sortedByIndex(
             std::move(all), newCut.size(), [](const Partnership& p) { return p.newEvent; },
             [&](const Partnership& a, const Partnership& b) {
                 return std::tuple(oldCut[a.oldEvent].sourceLow(), a.oldEvent) <
                        std::tuple(oldCut[b.oldEvent].sourceLow(), b.oldEvent);
             });
-        auto byOld = sortedByIndex(
-            byNew, oldCut.size(), [](const Partnership& p) { return p.oldEvent; },
-            [&](const Partnership& a, const Partnership& b) {
-                return std::tuple(newCut[a.newEvent].sourceLow(), a.newEvent) <
-                       std::tuple(newCut[b.newEvent].sourceLow(), b.newEvent);
-            });
-        return Partners(oldCut.size(), newCut.size(), std::move(byNew), std::move(byOld));
+        return {oldCut, newCut, std::move(all)};
     }
 
     const Cut& oldCut;
@@ -146,12 +140,30 @@ class Finder {
 
 }  // namespace
 
-Partners::Partners(std::size_t oldCount, std::size_t newCount, std::vector<Partnership> inNewOrder,
-                   std::vector<Partnership> inOldOrder)
-    : byNew(std::move(inNewOrder)),
-      byOld(std::move(inOldOrder)),
-      newStarts(startsOf(byNew, newCount, [](const Partnership& p) { return p.newEvent; })),
-      oldStarts(startsOf(byOld, oldCount, [](const Partnership& p) { return p.oldEvent; })) {}
+SharedPlace sharedPlace(const Partnership& p, const CutEvent& oldEvent, const CutEvent& newEvent) {
+    if (p.isRetimed() || newEvent.kind != Kind::plain) {
+        return {newEvent.recordIn, newEvent.recordOut, oldEvent.recordIn, oldEvent.recordOut};
+    }
+    const std::int64_t newOffset = newEvent.offset();
+    const std::int64_t oldOffset = oldEvent.offset();
+    return {addChecked(newOffset, p.from), addChecked(newOffset, p.to),
+            addChecked(oldOffset, p.from), addChecked(oldOffset, p.to)};
+}
+
+Partners::Partners(const Cut& oldCut, const Cut& newCut, std::vector<Partnership> sorted)
+    : all(std::move(sorted)),
+      newStarts(startsOf(all, newCut.size(), [](const Partnership& p) { return p.newEvent; })),
+      oldStarts(startsOf(all, oldCut.size(), [](const Partnership& p) { return p.oldEvent; })) {
+    pieces.resize(all.size());
+    std::vector<std::uint32_t> next = oldStarts;
+    for (const Partnership& p : all) pieces[next[p.oldEvent]++] = p.newEvent;
+    for (std::uint32_t o = 0; o < oldCut.size(); ++o) {
+        const std::span ofOne(pieces.data() + oldStarts[o], pieces.data() + oldStarts[o + 1]);
+        if (ofOne.size() < 2) continue;
+        std::ranges::sort(ofOne, {},
+                          [&](std::uint32_t n) { return std::tuple(newCut[n].sourceLow(), n); });
+    }
+}
 
 Partners findPartners(const Cut& oldCut, const Cut& newCut, const std::vector<Run>& runs) {
     return Finder(oldCut, newCut, runs).find();

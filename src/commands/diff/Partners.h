@@ -15,40 +15,63 @@ namespace clipvane::diff {
 struct Partnership {
     std::uint32_t newEvent = 0;
     std::uint32_t oldEvent = 0;
-    bool isRetimed = false;   ///< the two share no frame, but source range and retiming
     std::int64_t frames = 0;  ///< paired between the two
     std::int64_t from = 0;    ///< first frame of the content that the two share
     std::int64_t to = 0;      ///< behind the last one
+
+    /// Whether the two share nothing of a content, but source range and retiming.
+    bool isRetimed() const { return from == to; }
 };
+
+/// Where the frames that two partners share stand, in record frames of both lists.
+struct SharedPlace {
+    std::int64_t newFrom = 0;
+    std::int64_t newTo = 0;
+    std::int64_t oldFrom = 0;
+    std::int64_t oldTo = 0;
+};
+
+/// The place of what the two share; all of both events if that is no stretch of a source.
+SharedPlace sharedPlace(const Partnership& p, const CutEvent& oldEvent, const CutEvent& newEvent);
 
 /// All partnerships of two cuts, looked at from either side.
 class Partners {
   public:
-    explicit Partners(std::size_t oldCount, std::size_t newCount,
-                      std::vector<Partnership> inNewOrder, std::vector<Partnership> inOldOrder);
+    /// `all` come by event of NEW, then source of OLD.
+    Partners(const Cut& oldCut, const Cut& newCut, std::vector<Partnership> all);
 
     /// The partners of an event of NEW, by their source; the first is *the* partner.
     std::span<const Partnership> ofNew(std::uint32_t event) const {
-        return of(byNew, newStarts, event);
+        return of(all, newStarts, event);
     }
 
-    /// The partners of an event of OLD, by their source.
-    std::span<const Partnership> ofOld(std::uint32_t event) const {
-        return of(byOld, oldStarts, event);
+    /// *The* partner's partnership of an event of NEW that has one.
+    const Partnership& first(std::uint32_t event) const { return ofNew(event).front(); }
+
+    /// The partners of an event of OLD, events of NEW, by their source.
+    std::span<const std::uint32_t> ofOld(std::uint32_t event) const {
+        return of(pieces, oldStarts, event);
     }
 
   private:
-    static std::span<const Partnership> of(const std::vector<Partnership>& all,
-                                           const std::vector<std::uint32_t>& starts,
-                                           std::uint32_t event) {
-        return {all.data() + starts[event], starts[event + 1] - starts[event]};
+    template <class T>
+    static std::span<const T> of(const std::vector<T>& sorted,
+                                 const std::vector<std::uint32_t>& starts, std::uint32_t event) {
+        return {sorted.data() + starts[event], starts[event + 1] - starts[event]};
     }
 
-    std::vector<Partnership> byNew;
-    std::vector<Partnership> byOld;
-    std::vector<std::uint32_t>
-        newStarts;  // where an event's partnerships begin; one more at the end
+    std::vector<Partnership> all;       // by event of NEW
+    std::vector<std::uint32_t> pieces;  // events of NEW, by event of OLD
+    // Where those of an event begin; one more at the end.
+    std::vector<std::uint32_t> newStarts;
     std::vector<std::uint32_t> oldStarts;
+};
+
+/// Two cuts and who belongs to whom in them. They stay the caller's.
+struct PartneredCuts {
+    const Cut& oldCut;
+    const Cut& newCut;
+    const Partners& partners;
 };
 
 /// Partners are two events that pair at least half of the content that both hold, and either at

@@ -30,10 +30,10 @@ std::vector<std::vector<InSlot>> inOldWith(Words words, const Cut& oldCut,
     std::vector<std::vector<InSlot>> found(chains.size());
     for (Index o = 0; o < oldEvents.size(); ++o) {
         if (!oldEvents[o].words.hasAny(words)) continue;
-        const std::vector<Link>& chain = chains[oldEvents[o].track].chain;
+        const std::vector<ChainLink>& chain = chains[oldEvents[o].track].chain;
         const auto behind = std::ranges::lower_bound(
             chain, std::tuple(oldCut[o].recordIn, o), {},
-            [](const Link& link) { return std::tuple(link.oldFrom, link.partner); });
+            [](const ChainLink& link) { return std::tuple(link.oldFrom, link.partner); });
         found[oldEvents[o].track].push_back({static_cast<Slot>(behind - chain.begin()), o});
     }
     // An odd event has no place, and is told before all others.
@@ -47,7 +47,7 @@ class SlotsBehind {
     SlotsBehind(const std::vector<TrackChain>& chains, std::size_t newCount) : slots(newCount) {
         for (const TrackChain& track : chains) {
             Index slot = 0;
-            for (const Link& link : track.chain) slots[link.event] = ++slot;
+            for (const ChainLink& link : track.chain) slots[link.event] = ++slot;
         }
     }
 

@@ -36,10 +36,10 @@ class Reach {
 
 class Finder {
   public:
-    Finder(const Cut& oldCut, const Cut& newCut, const Partners& partners)
-        : oldCut(oldCut),
-          newCut(newCut),
-          partners(partners),
+    explicit Finder(const PartneredCuts& cuts)
+        : oldCut(cuts.oldCut),
+          newCut(cuts.newCut),
+          partners(cuts.partners),
           trims(newCut.size()),
           lastPart(newCut.size()) {}
 
@@ -58,7 +58,7 @@ class Finder {
         }
         Reach reach;
         for (const Partnership& part : parts) {
-            if (part.isRetimed) return;
+            if (part.isRetimed()) return;
             const std::int64_t gap = reach.add(oldCut[part.oldEvent], part.oldEvent);
             trims[n].inside = addChecked(trims[n].inside, gap);
         }
@@ -67,19 +67,18 @@ class Finder {
 
     void lookAtPieces(std::uint32_t o) {
         const auto pieces = partners.ofOld(o);
-        if (pieces.empty() || pieces.front().isRetimed) return;
+        if (pieces.empty() || partners.first(pieces.front()).isRetimed()) return;
         if (pieces.size() == 1) {
-            const std::uint32_t n = pieces.front().newEvent;
-            if (partners.ofNew(n).front().oldEvent == o) lookAtHead(o, n);
+            const std::uint32_t n = pieces.front();
+            if (partners.first(n).oldEvent == o) lookAtHead(o, n);
             if (lastPart[n] == o) lookAtTail(o, n);
             return;
         }
         Reach reach;
-        for (const Partnership& piece : pieces) {
-            const std::uint32_t n = piece.newEvent;
+        for (const std::uint32_t n : pieces) {
             const std::int64_t gap = reach.add(newCut[n], n);
-            if (partners.ofNew(n).front().oldEvent != o) continue;
-            const bool isFirst = n == pieces.front().newEvent;
+            if (partners.first(n).oldEvent != o) continue;
+            const bool isFirst = n == pieces.front();
             if (isFirst) {
                 lookAtHead(o, n);
             } else {
@@ -106,8 +105,8 @@ class Finder {
 
 }  // namespace
 
-std::vector<Trim> findTrims(const Cut& oldCut, const Cut& newCut, const Partners& partners) {
-    return Finder(oldCut, newCut, partners).find();
+std::vector<Trim> findTrims(const PartneredCuts& cuts) {
+    return Finder(cuts).find();
 }
 
 }  // namespace clipvane::diff

@@ -22,6 +22,6 @@ struct Trim {
 };
 
 /// The trim of each event of NEW.
-std::vector<Trim> findTrims(const Cut& oldCut, const Cut& newCut, const Partners& partners);
+std::vector<Trim> findTrims(const PartneredCuts& cuts);
 
 }  // namespace clipvane::diff

@@ -31,12 +31,13 @@ std::vector<Unpaired> countUnpaired(const Cut& cut, const std::vector<Stretch>& 
                                     const Cut& other) {
     const FreeStretches free(cut, paired);
     const Coverage uses = usesOf(other, cut, free.stretches());
-    std::vector<Unpaired> all(cut.size());
+    std::vector<Unpaired> all;
     for (const Stretch& stretch : free.stretches()) {
         const CutEvent& event = cut[stretch.event];
         const std::int64_t used = uses.within({event.content, stretch.from, stretch.to});
-        all[stretch.event].further += event.framesOf(used);
-        all[stretch.event].lacking += event.framesOf(stretch.to - stretch.from - used);
+        if (all.empty() || all.back().event != stretch.event) all.push_back({stretch.event, 0, 0});
+        all.back().further += event.framesOf(used);
+        all.back().lacking += event.framesOf(stretch.to - stretch.from - used);
     }
     return all;
 }

@@ -29,10 +29,10 @@ struct Times {
 struct NewEvent {
     std::uint32_t row = 0;
     std::uint32_t track = 0;  ///< index into CutDiff::tracks
+    Words words;
     Kind kind = Kind::plain;
     Times times;
     std::optional<std::uint32_t> partner;  ///< index into the events of OLD
-    Words words;
 
     std::int64_t head = 0;         ///< trimmed: this much longer at its head
     std::int64_t tail = 0;         ///< trimmed: this much longer at its tail
@@ -54,9 +54,9 @@ struct NewEvent {
 struct OldEvent {
     std::uint32_t row = 0;
     std::uint32_t track = 0;
+    Words words;  ///< gone, fewer, not compared; none of it has a partner
     Kind kind = Kind::plain;
     Times times;
-    Words words;  ///< gone, fewer, not compared; none of it has a partner
     std::int64_t goneFrames = 0;
     std::int64_t fewerFrames = 0;
 };
