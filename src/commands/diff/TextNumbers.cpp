@@ -7,6 +7,7 @@
 #include <unicode/normalizer2.h>
 
 #include <cstring>
+#include <random>
 #include <utility>
 
 #include "base/UTF8.h"
@@ -27,27 +28,21 @@ std::string normalized(std::string_view text) {
     return U_SUCCESS(error) ? result : std::string(text);
 }
 
-/// Eight bytes at a time: a list asks for two texts an event, most of them short.
-std::uint32_t hashOf(std::string_view text) {
-    constexpr std::size_t step = sizeof(std::uint64_t);
-    std::uint64_t hash = text.size();
-    const auto mix = [&](const char* from, std::size_t size) {
-        std::uint64_t bytes = 0;
-        std::memcpy(&bytes, from, size);
-        hash = (hash ^ bytes) * 0x9E37'79B9'7F4A'7C15;
-        hash ^= hash >> 32;
-    };
-    if (text.size() < step) {
-        mix(text.data(), text.size());
-    } else {
-        const char* const last = text.data() + text.size() - step;
-        for (const char* from = text.data(); from < last; from += step) mix(from, step);
-        mix(last, step);
-    }
-    return static_cast<std::uint32_t>(hash);
+std::uint64_t drawnKey() {
+    std::random_device source;
+    return std::uint64_t{source()} << 32 | source();
+}
+
+/// Both halves of the product, so that each bit depends on all bits of both factors.
+std::uint64_t folded(std::uint64_t a, std::uint64_t b) {
+    __extension__ using Product = unsigned __int128;
+    const Product product = Product{a} * b;
+    return static_cast<std::uint64_t>(product >> 64) ^ static_cast<std::uint64_t>(product);
 }
 
 }  // namespace
+
+TextNumbers::TextNumbers() : keys{drawnKey(), drawnKey() | 1} {}
 
 std::uint32_t TextNumbers::of(std::string_view text) {
     if (text.empty()) return 0;
@@ -57,6 +52,25 @@ std::uint32_t TextNumbers::of(std::string_view text) {
     const std::uint32_t number = numberOfNew(text);
     add({text, hash, number});
     return number;
+}
+
+/// Eight bytes at a time: a list asks for two texts an event, most of them short.
+std::uint32_t TextNumbers::hashOf(std::string_view text) const {
+    constexpr std::size_t step = sizeof(std::uint64_t);
+    std::uint64_t hash = keys[0] ^ text.size();
+    const auto mix = [&](const char* from, std::size_t size) {
+        std::uint64_t bytes = 0;
+        std::memcpy(&bytes, from, size);
+        hash = folded(hash ^ bytes, keys[1]);
+    };
+    if (text.size() < step) {
+        mix(text.data(), text.size());
+    } else {
+        const char* const last = text.data() + text.size() - step;
+        for (const char* from = text.data(); from < last; from += step) mix(from, step);
+        mix(last, step);
+    }
+    return static_cast<std::uint32_t>(hash);
 }
 
 /// Where the text is in the table, or where it would be.

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <deque>
@@ -16,6 +17,8 @@ namespace clipvane::diff {
 /// UTF-8, and must outlive the numbers.
 class TextNumbers {
   public:
+    TextNumbers();
+
     std::uint32_t of(std::string_view text);
 
   private:
@@ -26,10 +29,13 @@ class TextNumbers {
         std::uint32_t number = 0;
     };
 
+    std::uint32_t hashOf(std::string_view text) const;
     std::size_t placeOf(std::string_view text, std::uint32_t hash) const;
     void add(const Known& known);
     std::uint32_t numberOfNew(std::string_view text);
 
+    // Drawn anew for each comparison: nobody can write a list whose texts all have one hash.
+    std::array<std::uint64_t, 2> keys;
     std::vector<Known> table = std::vector<Known>(64);  // a power of two, at most half full
     std::size_t count = 0;
     std::deque<std::string> normalizedTexts;
