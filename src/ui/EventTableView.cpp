@@ -69,6 +69,8 @@ void EventTableView::setModel(QAbstractItemModel* model) {
     };
     connect(model, &QAbstractItemModel::rowsRemoved, this, layOut);
     connect(model, &QAbstractItemModel::modelReset, this, layOut);
+    // The toolkit looks for the changed rows in its own vertical header, which has none.
+    connect(model, &QAbstractItemModel::dataChanged, viewport(), qOverload<>(&QWidget::update));
 }
 
 int EventTableView::rowCount() const {

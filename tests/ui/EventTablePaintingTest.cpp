@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
+#include <QPaintEvent>
+
 #include "ui/ColourMixing.h"
 #include "ui/EventCell.h"
 #include "ui/EventTableUnderTest.h"
@@ -36,6 +38,28 @@ class EventTablePaintingTest : public test::EventTableFixture {
     const EventCell& cell() const { return dynamic_cast<const EventCell&>(*view.itemDelegate()); }
 };
 
+/// What a widget paints when it handles what is waiting for it.
+class PaintedArea : public QObject {
+  public:
+    explicit PaintedArea(QWidget& widget) {
+        QCoreApplication::processEvents();
+        widget.installEventFilter(this);
+    }
+    QRect afterwards() {
+        area = {};
+        QCoreApplication::processEvents();
+        return area;
+    }
+
+  private:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint) area |= static_cast<QPaintEvent*>(event)->rect();
+        return false;
+    }
+
+    QRect area;
+};
+
 void expectAlmost(const QColor& colour, const QColor& expected) {
     EXPECT_NEAR(colour.red(), expected.red(), 1);
     EXPECT_NEAR(colour.green(), expected.green(), 1);
@@ -57,6 +81,17 @@ TEST_F(EventTablePaintingTest, Backgrounds_BaseAlternateAmberAndBlue) {
     view.selectRow(3);
     expectAlmost(background(3), over(blue, amber));
     expectAlmost(background(1), colours::tableAlternate);
+}
+
+TEST_F(EventTablePaintingTest, TextsChanged_AreShownAtOnce) {
+    fill(100);
+    PaintedArea painted(*view.viewport());
+    model.textsChanged();
+    EXPECT_EQ(painted.afterwards(), view.viewport()->rect());
+    removeRow(3);
+    EXPECT_EQ(painted.afterwards(), view.viewport()->rect());
+    model.textsChanged();
+    EXPECT_EQ(painted.afterwards(), view.viewport()->rect());
 }
 
 TEST_F(EventTablePaintingTest, SelectionWithoutFocus_StaysBlue) {
