@@ -4,7 +4,9 @@
 #include "ui/HelpWindow.h"
 
 #include <QPlainTextEdit>
+#include <QScreen>
 #include <QScrollBar>
+#include <cstdlib>
 
 #include "ui/Colours.h"
 #include "ui/HelpText.h"
@@ -37,6 +39,24 @@ TEST_F(HelpWindowTest, PressedTwice_OneWindow) {
     EXPECT_EQ(window.frameSize(), QSize(520, 420));
     EXPECT_FALSE(window.windowFlags() & Qt::WindowMinimizeButtonHint);
     EXPECT_TRUE(window.windowFlags() & Qt::WindowCloseButtonHint);
+}
+
+TEST_F(HelpWindowTest, FirstOpened_InTheMiddleOfTheScreen) {
+    controller.window()->move(300, 200);
+    click("Help");
+    const QWidget& window = *helpWindows().front();
+    const QPoint off = window.frameGeometry().center() -
+                       controller.window()->screen()->availableGeometry().center();
+    EXPECT_LE(std::abs(off.x()), 1);
+    EXPECT_LE(std::abs(off.y()), 1);
+}
+
+TEST_F(HelpWindowTest, Centred_FrameIncludedAndTitleBarInReach) {
+    HelpWindow window;
+    window.centre({100, 50, 1920, 1040}, {1, 24, 3, 2});
+    EXPECT_EQ(window.pos(), QPoint(100 + (1920 - 624) / 2, 50 + (1040 - 546) / 2));
+    window.centre({10, 20, 600, 500}, {1, 24, 3, 2});
+    EXPECT_EQ(window.pos(), QPoint(10, 20));
 }
 
 TEST_F(HelpWindowTest, Reopened_IsAsItWasLeft) {
