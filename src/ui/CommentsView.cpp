@@ -59,6 +59,7 @@ CommentsView::CommentsView(QWidget* parent) : QPlainTextEdit(parent) {
 }
 
 void CommentsView::setEditable(bool editable) {
+    if (editable == !isReadOnly()) return;
     setReadOnly(!editable);
     setFocusPolicy(editable ? Qt::StrongFocus : Qt::NoFocus);
     setPlaceholderText(editable ? QString() : "Select an event to comment on it");

@@ -8,6 +8,7 @@
 #include <QHelpEvent>
 #include <QPainter>
 #include <QToolTip>
+#include <algorithm>
 
 #include "ui/Colours.h"
 #include "ui/EventTableView.h"
@@ -25,14 +26,37 @@ QColor textColour(const QModelIndex& index, bool selected) {
                                                         : colour;
 }
 
+constexpr char16_t firstPlain = u' ';
+constexpr char16_t lastPlain = u'~';
+
+/// Whether `text` is printable ASCII, which the cells' font sets character by character.
+bool isPlain(const QString& text) {
+    return std::all_of(text.begin(), text.end(),
+                       [](QChar c) { return c >= firstPlain && c <= lastPlain; });
+}
+
+double widestPlainCharacter(const QFont& font) {
+    const QFontMetricsF metrics(font);
+    double widest = 0;
+    for (char16_t c = firstPlain; c <= lastPlain; ++c) {
+        widest = std::max(widest, metrics.horizontalAdvance(QChar(c)));
+    }
+    return widest;
+}
+
 }  // namespace
 
 EventCell::EventCell(QObject* parent)
-    : QStyledItemDelegate(parent), labelFont(monospacedFont(14, QFont::Medium)) {}
+    : QStyledItemDelegate(parent),
+      labelFont(monospacedFont(14, QFont::Medium)),
+      widestPlain(widestPlainCharacter(labelFont)) {}
 
 QString EventCell::shownText(const QModelIndex& index, int width) const {
-    return QFontMetrics(labelFont).elidedText(displayLine(index.data().toString()), Qt::ElideMiddle,
-                                              width - 2 * padding);
+    const QString line = displayLine(index.data().toString());
+    const int room = width - 2 * padding;
+    // Most texts are too short to need measuring, which costs a fifth of drawing them.
+    if (isPlain(line) && static_cast<double>(line.size()) * widestPlain <= room) return line;
+    return QFontMetrics(labelFont).elidedText(line, Qt::ElideMiddle, room);
 }
 
 void EventCell::paint(QPainter* painter, const QStyleOptionViewItem& option,

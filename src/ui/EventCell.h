@@ -27,6 +27,7 @@ class EventCell : public QStyledItemDelegate {
 
   private:
     QFont labelFont;
+    double widestPlain;  ///< the advance of the widest ASCII character, in logical pixels
 };
 
 }  // namespace clipvane

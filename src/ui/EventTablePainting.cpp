@@ -4,6 +4,7 @@
 #include <QHeaderView>
 #include <QPaintEvent>
 #include <QPainter>
+#include <algorithm>
 
 #include "ui/Colours.h"
 #include "ui/ControlPainter.h"
@@ -42,7 +43,12 @@ void EventTableView::paintCurrentCell(QPainter& painter) const {
 void EventTableView::paintEvent(QPaintEvent* event) {
     QPainter painter(viewport());
     const QRect dirty = event->rect();
-    painter.fillRect(dirty, colours::table);
+    const int end = rowCount() * rowHeight - verticalOffset();
+    if (dirty.bottom() >= end) {
+        QRect below = dirty;
+        below.setTop(std::max(dirty.top(), end));
+        painter.fillRect(below, colours::table);
+    }
     // Lines would run through the text that covers an empty list.
     if (rowCount() == 0) return;
     for (int row = firstRowIn(dirty); row <= lastRowIn(dirty); ++row) paintRow(painter, row, dirty);

@@ -73,6 +73,12 @@ void EventTableView::setModel(QAbstractItemModel* model) {
     connect(model, &QAbstractItemModel::dataChanged, viewport(), qOverload<>(&QWidget::update));
 }
 
+void EventTableView::setSelectionModel(QItemSelectionModel* selection) {
+    QTableView::setSelectionModel(selection);
+    // The header does not show the selection, and would be painted again with each change of it.
+    horizontalHeader()->setSelectionModel(new QItemSelectionModel(model(), this));
+}
+
 int EventTableView::rowCount() const {
     return model() != nullptr ? model()->rowCount() : 0;
 }

@@ -23,6 +23,7 @@ class EventTableView : public QTableView {
     explicit EventTableView(QWidget* parent = nullptr);
 
     void setModel(QAbstractItemModel* model) override;
+    void setSelectionModel(QItemSelectionModel* selection) override;
     /// The background of `row`; unmarked if there is no such row.
     HighlightRowView rowViewForRow(int row) const;
 

@@ -10,12 +10,9 @@
 namespace clipvane {
 
 void HighlightRowView::drawBackground(QPainter& painter, const QRect& dirtyRect) const {
-    painter.fillRect(dirtyRect, colours::table);
-    if (isMarked) {
-        painter.fillRect(dirtyRect, colours::markedRow);
-    } else if (isAlternate) {
-        painter.fillRect(dirtyRect, colours::tableAlternate);
-    }
+    const bool isLighter = isAlternate && !isMarked;
+    painter.fillRect(dirtyRect, isLighter ? colours::tableAlternate : colours::table);
+    if (isMarked) painter.fillRect(dirtyRect, colours::markedRow);
 }
 
 void HighlightRowView::drawSelection(QPainter& painter, const QRect& dirtyRect) const {

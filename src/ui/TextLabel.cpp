@@ -101,8 +101,10 @@ TextLabel::Lines TextLabel::lines(int width) const {
 }
 
 std::optional<QFont> TextLabel::fittingFont(const QString& line, int width) const {
-    if (!fits(line, withSpacing(font(), leastSpacing), width)) return std::nullopt;
-    int percent = 100;
+    const QFont usual = withSpacing(font(), 100);
+    if (fits(line, usual, width)) return usual;
+    if (leastSpacing == 100 || !fits(line, withSpacing(font(), leastSpacing), width)) return {};
+    int percent = 99;
     while (percent > leastSpacing && !fits(line, withSpacing(font(), percent), width)) --percent;
     return withSpacing(font(), percent);
 }
@@ -129,10 +131,12 @@ void TextLabel::paintEvent(QPaintEvent*) {
         const int total = static_cast<int>(texts.size()) * spacing;
         y = (height() - total) / 2 + (spacing - metrics.height()) + metrics.ascent();
     }
+    const auto left = [&](const QString& line) {
+        if (!(alignment() & Qt::AlignHCenter)) return 0;
+        return std::max((width() - metrics.horizontalAdvance(line)) / 2, 0);
+    };
     for (const QString& line : texts) {
-        const int room = width() - metrics.horizontalAdvance(line);
-        const int x = alignment() & Qt::AlignHCenter ? std::max(room / 2, 0) : 0;
-        painter.drawText(QPoint(x, y), line);
+        painter.drawText(QPoint(left(line), y), line);
         y += spacing;
     }
 }

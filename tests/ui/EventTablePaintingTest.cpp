@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
+#include <QHeaderView>
 #include <QPaintEvent>
 
 #include "ui/ColourMixing.h"
@@ -138,6 +139,27 @@ TEST_F(EventTablePaintingTest, LongClipName_LosesItsMiddle) {
     EXPECT_TRUE(shown.contains(u'…'));
     EXPECT_EQ(cell().font().pixelSize(), 14);
     EXPECT_EQ(cell().font().weight(), QFont::Medium);
+}
+
+TEST_F(EventTablePaintingTest, TextsThatJustFit_AreShownWhole) {
+    fill(1);
+    const QFontMetrics metrics(cell().font());
+    for (const QString& name : {QString(31, 'x'), QString(31, 'W'), QString(30, 'x') + "é"}) {
+        edit(0, [&](auto& event) { event.clipName = name.toStdString(); });
+        const int width = metrics.horizontalAdvance(name) + 2 * EventCell::padding;
+        EXPECT_EQ(shownName(width + 1), name);
+        EXPECT_NE(shownName(width - 3), name);
+    }
+}
+
+TEST_F(EventTablePaintingTest, SelectionChanged_HeaderIsNotPaintedAgainAsAWhole) {
+    fill(2);
+    view.selectRow(0);
+    PaintedArea painted(*view.horizontalHeader()->viewport());
+    view.selectRow(1);
+    EXPECT_LE(painted.afterwards().width(), view.columnWidth(0));
+    view.setColumnWidth(1, 300);
+    EXPECT_GT(painted.afterwards().width(), view.columnWidth(1));
 }
 
 TEST_F(EventTablePaintingTest, NamesThatCouldBreakAView_AreShownAsText) {
