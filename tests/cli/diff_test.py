@@ -134,6 +134,22 @@ class Formats(ProgramTest):
             self.assertEqual(row, {key: "" if value is None else str(value)
                                    for key, value in line.items()})
 
+    def test_csv_quotes_and_keeps_a_line_for_each_change(self):
+        clip = '<clip name="the &quot;best&quot;&#10;take" start="0s" duration="2s" offset="0s"/>'
+        self.put("old.xml", f"<a>{clip}</a>")
+        self.put("new.xml", f"<a>{clip.replace('take', 'part')}</a>")
+        text = self.run_program("diff", "--fps", "25", "-f", "csv", "old.xml", "new.xml").text
+        self.assertEqual(len(text.splitlines()), 3)
+        rows = list(csv.DictReader(io.StringIO(text)))
+        self.assertEqual(rows[0]["oldName"], 'the "best" take')
+
+    def test_frames_that_are_paired_elsewhere_are_told(self):
+        first, second, third = edl("A 100-180 @50, A 160-210 @200, B 0-50 @250").splitlines(True)
+        self.put("old.edl", first + second + "* FROM CLIP NAME: another\n" + third)
+        self.put("new.edl", edl("A 100-160 @140, A 160-210 @200, B 0-50 @250"))
+        text = self.run_program("diff", "--fps", "25", "old.edl", "new.edl").text
+        self.assertIn("20 frames from elsewhere in OLD", text)
+
     def test_verbose_lists_each(self):
         old = A + B
         new = A.replace("00:00:00:00 00:00:02:00\n", "00:00:01:00 00:00:03:00\n") + \

@@ -32,6 +32,21 @@ TEST_P(CutDiff, ReportsWhatWasDone) {
     EXPECT_EQ(diff.sums.longer, GetParam().longer);
 }
 
+bool areSame(const std::vector<Row>& oldRows, const std::vector<Row>& newRows) {
+    return compare(oldRows, newRows).sums.areSame();
+}
+
+TEST(CutDiffSums, AreSame_OnlyWhenNothingIsLostOrLeftOut) {
+    const Row a = cut("A", 0, 50, 0);
+    const Row b = cut("B", 0, 50, 50);
+    const Row odd{"A", 0, 50, 0, -1};
+    EXPECT_TRUE(areSame({a, b, odd}, {a, b, odd}));
+    EXPECT_FALSE(areSame({a, b}, {a}));                    // gone
+    EXPECT_FALSE(areSame({a, cut("A", 0, 50, 50)}, {a}));  // fewer
+    EXPECT_FALSE(areSame({a, odd}, {a}));                  // not compared
+    EXPECT_FALSE(areSame({a}, {a, b}));                    // new
+}
+
 INSTANTIATE_TEST_SUITE_P(
     Edits, CutDiff,
     testing::Values(
@@ -136,6 +151,14 @@ INSTANTIATE_TEST_SUITE_P(
              {{"A", 0, 50, 0, -1, "V", "x"}, {"A", 0, 50, 0, -1, "V", "y"}, cut("B", 0, 50, 0)},
              {{"A", 0, 50, 0, -1, "V", "y"}, cut("B", 0, 50, 0)},
              {"A not compared (0 0)"}},
+        Case{"OddEventsByNameBehindWhatIsLost",
+             {cut("A", 0, 50, 0),
+              cut("B", 0, 50, 50),
+              {"A", 0, 50, 0, -1, "V", "x"},
+              {"A", 0, 50, 0, -1, "V", "y"}},
+             {cut("A", 0, 50, 0), {"A", 0, 50, 0, -1, "V", "y"}},
+             {"B gone (50 0)", "A not compared (0 0)"},
+             -50},
         Case{"PartlyFromElsewhere",
              {cut("A", 100, 180, 50), cut("A", 160, 210, 200, "V", "x"), cut("B", 0, 50, 250)},
              {cut("A", 100, 160, 140), cut("A", 160, 210, 200), cut("B", 0, 50, 250)},
