@@ -4,10 +4,13 @@
 #include <clipvane/CSVReport.h>
 
 #include <algorithm>
+#include <array>
+#include <cstdint>
 #include <string_view>
 
 #include <clipvane/FrameRate.h>
 #include <clipvane/Timecode.h>
+#include <clipvane/detail/TwoDigitFields.h>
 #include "commands/EventText.h"
 
 namespace clipvane {
@@ -17,90 +20,121 @@ constexpr std::string_view header =
     "Event,Clip Name,Reel ID,FPS,FPS Source,Source In,Source Out,Source Duration,Record In,"
     "Record Out,Record Duration,Track,Format,Highlighted,Comments\n";
 
-constexpr std::string_view open = "\"";
 constexpr std::string_view next = "\",\"";  // closes a field and opens another
-constexpr std::string_view close = "\"\n";
 
 constexpr bool isReplaced(char c) {
     return c == '"' || c == '\n';
 }
 
-void appendReplacing(std::string& text, std::string_view field) {
-    while (true) {
-        const auto end = static_cast<std::size_t>(
-            std::find_if(field.begin(), field.end(), isReplaced) - field.begin());
-        text += field.substr(0, end);
-        if (end == field.size()) return;
-        text += field[end] == '"' ? "\"\"" : " ";
-        field.remove_prefix(end + 1);
+/// Whether any of eight characters is a quote or a line feed.
+bool holdsReplaced(std::uint64_t characters) {
+    constexpr std::uint64_t ones = 0x0101'0101'0101'0101;
+    const std::uint64_t quotes = characters ^ ones * '"';
+    const std::uint64_t lineFeeds = characters ^ ones * '\n';
+    // One less than a byte that is zero has the highest bit, which the byte has not.
+    return (((quotes - ones) & ~quotes) | ((lineFeeds - ones) & ~lineFeeds)) & ones << 7;
+}
+
+/// Whether nothing in the field is replaced. Looks at eight characters at a time.
+bool isPlain(std::string_view field) {
+    constexpr std::size_t step = 8;
+    if (field.size() < step) return std::ranges::none_of(field, isReplaced);
+    const std::size_t last = field.size() - step;
+    for (std::size_t at = 0;; at = std::min(at + step, last)) {
+        if (holdsReplaced(eightCharacters(field.data() + at))) return false;
+        if (at == last) return true;
     }
 }
 
-/// Appends what stands between a field's quotes.
-void appendField(std::string& text, std::string_view field) {
-    const bool isPlain =
-        field.find('"') == std::string_view::npos && field.find('\n') == std::string_view::npos;
-    if (isPlain) {
-        text += field;
+void putReplacing(GrowingText& text, std::string_view field) {
+    for (const char c : field) {
+        if (c == '"') text.put('"');
+        text.put(c == '\n' ? ' ' : c);
+    }
+}
+
+/// Puts what stands between a field's quotes.
+void putField(GrowingText& text, std::string_view field) {
+    if (isPlain(field)) {
+        text.put(field);
     } else {
-        appendReplacing(text, field);
+        putReplacing(text, field);
     }
 }
 
 /// The fields that are the same in every row, with what parts them from their neighbours.
 std::string rateFields(const TimelineDocument& document) {
-    std::string fields(next);
-    appendField(fields, formatFPS(document.fps));
-    fields += next;
-    appendField(fields, document.fpsSource);
-    fields += next;
-    return fields;
-}
-
-/// Appends two timecodes and the time between them.
-void appendRange(std::string& text, std::string_view in, std::string_view out, double fps) {
-    appendField(text, in);
-    text += next;
-    appendField(text, out);
-    text += next;
-    appendDuration(text, in, out, fps);
+    GrowingText fields;
+    fields.put(next);
+    putField(fields, formatFPS(document.fps));
+    fields.put(next);
+    putField(fields, document.fpsSource);
+    fields.put(next);
+    return fields.take();
 }
 
 /// The report as an `EventText`'s form.
 class CSV {
   public:
     explicit CSV(const TimelineDocument& document)
-        : rate(document.events.empty() ? "" : rateFields(document)), fps(document.fps) {}
+        : events(document.events),
+          rate(events.empty() ? "" : rateFields(document)),
+          fps(document.fps),
+          base(events.empty() ? 1 : frameBase(fps)) {}
 
-    std::string head() const {
-        std::string text(header);
-        if (rate.empty()) text += '\n';
-        return text;
+    void begin(GrowingText& text) const {
+        text.put(header);
+        if (rate.empty()) text.put('\n');
     }
 
-    void append(std::string& text, const auto& event) const {
-        text += open;
-        appendField(text, event.eventNumber);
-        text += next;
-        appendField(text, event.clipName);
-        text += next;
-        appendField(text, event.reelID);
-        text += rate;
-        appendRange(text, event.sourceIn, event.sourceOut, fps);
-        text += next;
-        appendRange(text, event.recordIn, event.recordOut, fps);
-        text += next;
-        appendField(text, event.track);
-        text += next;
-        appendField(text, event.format);
-        text += event.highlighted ? "\",\"Yes\",\"" : "\",\"No\",\"";
-        appendField(text, event.comments);
-        text += close;
+    void append(GrowingText& text, const KeptEvent& event) const {
+        text.put('"');
+        putField(text, event.eventNumber);
+        text.put(next);
+        putField(text, event.clipName);
+        text.put(next);
+        putField(text, event.reelID);
+        text.put(rate);
+        putRange(text, event.timecodes[0], event.timecodes[1]);
+        text.put(next);
+        putRange(text, event.timecodes[2], event.timecodes[3]);
+        text.put(next);
+        putField(text, event.track);
+        text.put(next);
+        putField(text, event.format);
+        text.put(event.highlighted ? "\",\"Yes\",\"" : "\",\"No\",\"");
+        putField(text, event.comments);
+        text.put("\"\n");
     }
 
   private:
+    /// Puts two timecodes and the time between them.
+    void putRange(GrowingText& text, RowTimecode in, RowTimecode out) const {
+        if (in.isPacked() && out.isPacked() && base <= PackedTimecode::mostBase) {
+            putTimecode(text, in.packed());
+            text.put(next);
+            putTimecode(text, out.packed());
+            text.put(next);
+            putDuration(text, in.packed(), out.packed(), static_cast<std::uint32_t>(base));
+        } else {
+            std::array<std::array<char, twoDigitLength>, 2> rooms;
+            putUnusualRange(text, events.timecodeText(in, rooms[0]),
+                            events.timecodeText(out, rooms[1]));
+        }
+    }
+
+    void putUnusualRange(GrowingText& text, std::string_view in, std::string_view out) const {
+        putField(text, in);
+        text.put(next);
+        putField(text, out);
+        text.put(next);
+        putDuration(text, in, out, fps);
+    }
+
+    const EventList& events;
     std::string rate;  ///< empty without events, which ask nothing of it
     double fps;
+    std::int64_t base;
 };
 
 }  // namespace

@@ -7,7 +7,6 @@
 #include <cstdint>
 #include <string_view>
 
-#include "base/Number.h"
 #include "commands/EventText.h"
 
 namespace clipvane {
@@ -18,57 +17,63 @@ constexpr std::string_view firstLines =
     "TITLE: Clipvane Export\n"
     "FCM: NON-DROP FRAME\n";
 
-constexpr std::string_view cut = " C        ";
+constexpr std::string_view cut = " C       ";  // and the blank of the first timecode
 
 std::string_view orElse(std::string_view text, std::string_view fallback) {
     return text.empty() ? fallback : text;
 }
 
-/// Appends `comment` with a blank for each line feed.
-void appendOneLine(std::string& text, std::string_view comment) {
-    const std::size_t start = text.size();
-    text += comment;
-    std::replace(text.begin() + static_cast<std::ptrdiff_t>(start), text.end(), '\n', ' ');
+/// Puts `comment` with a blank for each line feed.
+void putOneLine(GrowingText& text, std::string_view comment) {
+    text.endAt(std::ranges::replace_copy(comment, text.room(comment.size()), '\n', ' ').out);
 }
 
-void appendEventLine(std::string& text, const auto& event, std::int64_t number) {
-    appendPadded(text, number, 3);
-    text += "  ";
-    text += orElse(event.reelID, "AX");
-    text += ' ';
-    text += orElse(event.track, "V");
-    text += cut;
-    text += event.sourceIn;
-    text += ' ';
-    text += event.sourceOut;
-    text += ' ';
-    text += event.recordIn;
-    text += ' ';
-    text += event.recordOut;
-    text += '\n';
+/// Puts `number` in three digits or more.
+void putNumber(GrowingText& text, std::uint64_t number) {
+    if (number < 100) text.put(number < 10 ? "00" : "0");
+    text.putNumber(number);
 }
 
 /// The EDL as an `EventText`'s form.
 class EDL {
   public:
-    explicit EDL(const TimelineDocument&) {}
+    explicit EDL(const TimelineDocument& document) : events(document.events) {}
 
-    std::string_view head() const { return firstLines; }
+    void begin(GrowingText& text) const { text.put(firstLines); }
 
-    void append(std::string& text, const auto& event) {
-        text += '\n';
-        appendEventLine(text, event, ++number);
-        text += "* FROM CLIP NAME: ";
-        text += event.clipName;
-        text += '\n';
+    void append(GrowingText& text, const KeptEvent& event) {
+        text.put('\n');
+        putEventLine(text, event);
+        text.put("* FROM CLIP NAME: ");
+        text.put(event.clipName);
+        text.put('\n');
         if (event.comments.empty()) return;
-        text += "* COMMENT: ";
-        appendOneLine(text, event.comments);
-        text += '\n';
+        text.put("* COMMENT: ");
+        putOneLine(text, event.comments);
+        text.put('\n');
     }
 
   private:
-    std::int64_t number = 0;
+    void putEventLine(GrowingText& text, const KeptEvent& event) {
+        putNumber(text, ++number);
+        text.put("  ");
+        text.put(orElse(event.reelID, "AX"));
+        text.put(' ');
+        text.put(orElse(event.track, "V"));
+        text.put(cut);
+        for (const RowTimecode timecode : event.timecodes) {
+            text.put(' ');
+            if (timecode.isPacked()) {
+                putTimecode(text, timecode.packed());
+            } else {
+                text.put(events.unusualText(timecode));
+            }
+        }
+        text.put('\n');
+    }
+
+    const EventList& events;
+    std::uint64_t number = 0;
 };
 
 }  // namespace

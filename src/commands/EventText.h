@@ -7,26 +7,40 @@
 #include <cstddef>
 #include <filesystem>
 #include <new>
+#include <span>
 #include <stdexcept>
 #include <string>
 #include <utility>
 
 #include <clipvane/Error.h>
 #include <clipvane/TimelineDocument.h>
+#include <clipvane/detail/PackedTimecode.h>
 #include "base/AtomicFile.h"
+#include "base/GrowingText.h"
 
 namespace clipvane {
 
 // A text that an event after the other is added to. Its form is a class that is made from the
-// document; `head()` is what stands before the events, `append(text, event)` adds one.
+// document; `begin(text)` puts what stands before the events, `append(text, event)` puts one, which
+// is a `KeptEvent`.
+
+/// Puts a packed timecode.
+inline void putTimecode(GrowingText& text, PackedTimecode timecode) {
+    const std::span<char, twoDigitLength> to(text.room(twoDigitLength), twoDigitLength);
+    timecode.write(to);
+    text.endAt(to.data() + to.size());
+}
 
 /// The whole text at once.
 template <class Form>
 std::string eventText(const TimelineDocument& document) {
     Form form(document);
-    std::string text(form.head());
-    for (const auto& event : document.events) form.append(text, event);
-    return text;
+    GrowingText text;
+    form.begin(text);
+    for (std::size_t row = 0; row < document.events.size(); ++row) {
+        form.append(text, document.events.kept(row));
+    }
+    return text.take();
 }
 
 /// In bytes. Small enough to stay in the processor's cache, large enough to be worth a system call.
@@ -40,16 +54,15 @@ Result<void> writeEventText(const TimelineDocument& document,
     auto file = AtomicFile::create(url);
     if (!file) return tl::unexpected(std::move(file.error()));
     Form form(document);
-    std::string chunk;
-    chunk.reserve(chunkSize + chunkSize / 4);
-    chunk += form.head();
-    for (const auto& event : document.events) {
-        form.append(chunk, event);
+    GrowingText chunk;
+    form.begin(chunk);
+    for (std::size_t row = 0; row < document.events.size(); ++row) {
+        form.append(chunk, document.events.kept(row));
         if (chunk.size() < chunkSize) continue;
-        if (auto written = file->write(chunk); !written) return written;
+        if (auto written = file->write(chunk.view()); !written) return written;
         chunk.clear();
     }
-    if (auto written = file->write(chunk); !written) return written;
+    if (auto written = file->write(chunk.view()); !written) return written;
     return file->commit();
 } catch (const std::bad_alloc&) {
     return tl::unexpected(fileError("written", url, ENOMEM));

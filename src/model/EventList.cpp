@@ -170,13 +170,6 @@ RowTimecode EventList::keepOdd(std::string_view timecode) {
     return RowTimecode::ofText(static_cast<std::uint32_t>(oddTimecodes.size() - 1));
 }
 
-std::string_view EventList::timecodeText(RowTimecode timecode,
-                                         std::span<char, twoDigitLength> room) const {
-    if (!timecode.isPacked()) return unusualText(timecode);
-    timecode.packed().write(room);
-    return {room.data(), room.size()};
-}
-
 void EventList::forget(std::uint32_t index) noexcept {
     wideTexts.erase(index);
     comments.erase(index);

@@ -8,19 +8,18 @@
 namespace clipvane {
 
 EventView::EventView(const EventList& list, std::uint32_t index) : list(list), index(index) {
-    const EventRow& row = list.rows[index];
-    const auto columns = list.columnsOf(index);
-    format = row.isWide ? list.wideTexts.at(index).format : formatText(row.format);
-    eventNumber = columns[0];
-    clipName = columns[1];
-    reelID = columns[2];
-    track = columns[3];
-    sourceIn = list.timecodeText(row.timecodes[0], timecodes[0]);
-    sourceOut = list.timecodeText(row.timecodes[1], timecodes[1]);
-    recordIn = list.timecodeText(row.timecodes[2], timecodes[2]);
-    recordOut = list.timecodeText(row.timecodes[3], timecodes[3]);
-    if (row.hasComments) comments = list.comments.at(index);
-    highlighted = row.isHighlighted;
+    const KeptEvent kept = list.keptAt(index);
+    eventNumber = kept.eventNumber;
+    clipName = kept.clipName;
+    reelID = kept.reelID;
+    sourceIn = list.timecodeText(kept.timecodes[0], timecodes[0]);
+    sourceOut = list.timecodeText(kept.timecodes[1], timecodes[1]);
+    recordIn = list.timecodeText(kept.timecodes[2], timecodes[2]);
+    recordOut = list.timecodeText(kept.timecodes[3], timecodes[3]);
+    format = kept.format;
+    track = kept.track;
+    comments = kept.comments;
+    highlighted = kept.highlighted;
 }
 
 UUID EventView::id() const {

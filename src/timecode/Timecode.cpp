@@ -7,6 +7,7 @@
 
 #include <clipvane/FrameRate.h>
 #include <clipvane/detail/TwoDigitFields.h>
+#include "base/GrowingText.h"
 #include "base/Number.h"
 
 namespace clipvane {
@@ -72,6 +73,22 @@ void appendTimecode(std::string& text, std::int64_t count, std::int64_t base, ch
     appendPadded(text, count % base, 2);
 }
 
+/// Puts a duration of `count` frames, which is not negative.
+void putFrames(GrowingText& text, std::int64_t count, std::int64_t base) {
+    if (fitsTwoDigitFields(count, base)) {
+        const std::span<char, twoDigitLength> to(text.room(twoDigitLength), twoDigitLength);
+        writeTwoDigitFields(to, count, base, ':');
+        text.endAt(to.data() + to.size());
+    } else {
+        std::string wide;
+        appendTimecode(wide, count, base, ':');
+        text.put(wide);
+    }
+    text.put(" (");
+    text.putNumber(static_cast<std::uint64_t>(count));
+    text.put(" frames)");
+}
+
 }  // namespace
 
 std::optional<std::int64_t> frames(std::string_view from, double fps) {
@@ -93,7 +110,7 @@ std::string timecode(std::int64_t fromFrames, double fps, bool usesDropFrameSepa
 TimecodeConversion::TimecodeConversion(double from, double to)
     : fromBase(frameBase(from)),
       toBase(frameBase(to)),
-      hoursThatFit(fromBase <= 100 && toBase <= 100 ? 99 : 0) {
+      hoursThatFit(std::max(fromBase, toBase) <= PackedTimecode::mostBase ? 99 : 0) {
     if (hoursThatFit > 0) prepareFrames();
 }
 
@@ -142,24 +159,27 @@ std::string convertTimecode(std::string_view timecode, double from, double to) {
     return converted;
 }
 
-void appendDuration(std::string& text, std::string_view from, std::string_view to, double fps) {
+void putDuration(GrowingText& text, PackedTimecode from, PackedTimecode to, std::uint32_t base) {
+    const std::uint32_t start = from.count(base);
+    const std::uint32_t end = to.count(base);
+    putFrames(text, end > start ? end - start : 0, base);
+}
+
+void putDuration(GrowingText& text, std::string_view from, std::string_view to, double fps) {
     const auto start = frames(from, fps);
     const auto end = start ? frames(to, fps) : std::nullopt;
-    if (!end) {
-        text += '-';
-        return;
+    if (end) {
+        const std::int64_t count = subtractChecked(*end, *start);
+        putFrames(text, std::max<std::int64_t>(count, 0), frameBase(fps));
+    } else {
+        text.put('-');
     }
-    const std::int64_t count = std::max<std::int64_t>(subtractChecked(*end, *start), 0);
-    appendTimecode(text, count, frameBase(fps), ':');
-    text += " (";
-    appendInteger(text, count);
-    text += " frames)";
 }
 
 std::string durationDisplay(std::string_view from, std::string_view to, double fps) {
-    std::string text;
-    appendDuration(text, from, to, fps);
-    return text;
+    GrowingText text;
+    putDuration(text, from, to, fps);
+    return text.take();
 }
 
 }  // namespace clipvane

@@ -6,7 +6,10 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <string>
+#include <vector>
 
+#include <clipvane/Timecode.h>
 #include "commands/SampleEvents.h"
 #include "support/Records.h"
 #include "support/RowName.h"
@@ -116,6 +119,43 @@ INSTANTIATE_TEST_SUITE_P(
         QuotingRow{"LongWithQuoteAtTheEnd", longText + "\"", "\"" + longText + "\"\"\""},
         QuotingRow{"LongWithLineFeedAtTheStart", "\n" + longText, "\" " + longText + "\""}),
     RowName());
+
+/// Also bytes that differ from a quote and a line feed in one bit or by one, which stay.
+TEST(CSVReport, AnyByteAnywhereInAField_IsReplacedOrStays) {
+    TimelineEvent event = sampleEvent();
+    for (const char c : std::string("\"\n!#\x02\x09\x0B\x0E\x8A\xA2\xFF")) {
+        for (std::size_t length = 1; length <= 20; ++length) {
+            for (std::size_t at = 0; at < length; ++at) {
+                event.comments = std::string(length, 'x');
+                event.comments[at] = c;
+                std::string field = event.comments;
+                if (c == '"') field.insert(at, 1, '"');
+                if (c == '\n') field[at] = ' ';
+                const std::string row = rowOf(event);
+                ASSERT_TRUE(row.ends_with("\"No\",\"" + field + "\"")) << row;
+            }
+        }
+    }
+}
+
+TEST(CSVReport, Durations_AreThoseThatTheWindowShows) {
+    const std::vector<std::string> timecodes{"00:00:00:00", "01:00:00:00", "00:59:59:24",
+                                             "99:59:59:99", "99:99:99:99", "01:00:00;02",
+                                             "1:2:3:4",     "x",           ""};
+    TimelineEvent event = sampleEvent();
+    for (const double fps : {1.0, 23.976, 25.0, 100.0, 100.6, 101.0, 1000.0, 1e12}) {
+        for (const std::string& in : timecodes) {
+            for (const std::string& out : timecodes) {
+                event.sourceIn = in;
+                event.sourceOut = out;
+                const std::string fields =
+                    "\"" + in + "\",\"" + out + "\",\"" + durationDisplay(in, out, fps) + "\",";
+                const std::string row = rowOf(event, fps);
+                EXPECT_NE(row.find(fields), std::string::npos) << fps << ' ' << row;
+            }
+        }
+    }
+}
 
 /// Each text field in turn holds a comma, a quote and a line feed.
 TEST(CSVReport, EveryTextField_IsQuoted) {

@@ -74,6 +74,9 @@ TEST(EventList, WhatIsPutIn_IsKeptWithoutTextsOfUsualTimecodes) {
         EXPECT_EQ(kept.clipName, event.clipName);
         EXPECT_EQ(kept.reelID, event.reelID);
         EXPECT_EQ(kept.track, event.track);
+        EXPECT_EQ(kept.format, event.format);
+        EXPECT_EQ(kept.comments, event.comments);
+        EXPECT_EQ(kept.highlighted, event.highlighted);
         EXPECT_EQ(kept.isFromEDL, event.format == "EDL");
         const std::array texts{event.sourceIn, event.sourceOut, event.recordIn, event.recordOut};
         for (std::size_t i = 0; i < texts.size(); ++i) {

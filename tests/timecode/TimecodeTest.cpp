@@ -9,6 +9,7 @@
 #include <limits>
 #include <vector>
 
+#include "base/GrowingText.h"
 #include "support/RowName.h"
 
 namespace clipvane::test {
@@ -195,9 +196,10 @@ class DurationDisplay : public testing::TestWithParam<DurationRow> {};
 TEST_P(DurationDisplay, Row) {
     const auto& row = GetParam();
     EXPECT_EQ(durationDisplay(row.from, row.to, row.fps), row.expected);
-    std::string line = "Duration: ";
-    appendDuration(line, row.from, row.to, row.fps);
-    EXPECT_EQ(line, "Duration: " + std::string(row.expected));
+    GrowingText line;
+    line.put("Duration: ");
+    putDuration(line, row.from, row.to, row.fps);
+    EXPECT_EQ(line.view(), "Duration: " + std::string(row.expected));
 }
 
 const std::vector<DurationRow> durations{

@@ -28,13 +28,17 @@ struct FoundEvent;
 class FoundTimecode;
 
 /// An event as its list keeps it, where timecodes of the usual form are no texts: for whoever
-/// counts the frames of many. Its views are good as long as those of an `EventView`.
+/// counts the frames of many, or writes many. Its views are good as long as those of an
+/// `EventView`.
 struct KeptEvent {
     std::string_view eventNumber;
     std::string_view clipName;
     std::string_view reelID;
     std::string_view track;
     std::array<RowTimecode, 4> timecodes;  ///< source in and out, record in and out
+    std::string_view format;
+    std::string_view comments;
+    bool highlighted = false;
     bool isFromEDL = false;
 };
 
@@ -65,6 +69,8 @@ class EventList {
 
     /// The same event, without a text of each timecode.
     KeptEvent kept(std::size_t row) const;
+    /// The text of a timecode: `room`, if it is packed.
+    std::string_view timecodeText(RowTimecode timecode, std::span<char, twoDigitLength> room) const;
     /// The text of a timecode that is not packed.
     std::string_view unusualText(RowTimecode timecode) const {
         return timecode.isEmpty() ? std::string_view() : oddTimecodes[timecode.textNumber()];
@@ -110,8 +116,7 @@ class EventList {
     std::uint32_t addRow(const TimelineEvent& event);
     void placeTexts(EventRow& row, std::uint32_t index, const FoundEvent& event);
     RowTimecode keepOdd(std::string_view timecode);
-    std::array<std::string_view, 4> columnsOf(std::uint32_t index) const;
-    std::string_view timecodeText(RowTimecode timecode, std::span<char, twoDigitLength> room) const;
+    KeptEvent keptAt(std::uint32_t index) const;
     void forget(std::uint32_t index) noexcept;
 
     TextStore texts;
@@ -126,22 +131,25 @@ class EventList {
     mutable LazyIdentifiers identifiers;
 };
 
-inline std::array<std::string_view, 4> EventList::columnsOf(std::uint32_t index) const {
+inline KeptEvent EventList::keptAt(std::uint32_t index) const {
     const EventRow& row = rows[index];
-    if (row.isWide) return wideTexts.at(index).columns;
-    return {row.columns[0].of(row.texts), row.columns[1].of(row.texts),
-            row.columns[2].of(row.texts), row.columns[3].of(row.texts)};
+    const WideTexts* const wide = row.isWide ? &wideTexts.at(index) : nullptr;
+    const auto column = [&](std::size_t i) {
+        return wide != nullptr ? wide->columns[i] : row.columns[i].of(row.texts);
+    };
+    return {.eventNumber = column(0),
+            .clipName = column(1),
+            .reelID = column(2),
+            .track = column(3),
+            .timecodes = row.timecodes,
+            .format = wide != nullptr ? wide->format : formatText(row.format),
+            .comments = row.hasComments ? std::string_view(comments.at(index)) : "",
+            .highlighted = row.isHighlighted,
+            .isFromEDL = row.format == EventRow::Format::edl};
 }
 
 inline KeptEvent EventList::kept(std::size_t row) const {
-    const std::uint32_t index = shown[row];
-    const auto columns = columnsOf(index);
-    return {columns[0],
-            columns[1],
-            columns[2],
-            columns[3],
-            rows[index].timecodes,
-            rows[index].format == EventRow::Format::edl};
+    return keptAt(shown[row]);
 }
 
 /// Goes through a list. It makes a new view each time.
@@ -161,6 +169,14 @@ class EventList::Iterator {
     const EventList* list;
     std::size_t row;
 };
+
+// Inline, since a view asks four times.
+inline std::string_view EventList::timecodeText(RowTimecode timecode,
+                                                std::span<char, twoDigitLength> room) const {
+    if (!timecode.isPacked()) return unusualText(timecode);
+    timecode.packed().write(room);
+    return {room.data(), room.size()};
+}
 
 inline EventList::Iterator EventList::begin() const {
     return {*this, 0};

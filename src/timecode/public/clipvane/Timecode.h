@@ -13,6 +13,8 @@
 
 namespace clipvane {
 
+class GrowingText;
+
 // Timecode arithmetic. All counting is non-drop-frame on the frame base of a rate (`frameBase`):
 // 29.97 counts 30 frames a second. The ";" of a drop-frame timecode is read and written, but never
 // changes a count. Frame rates are in frames per second. A count that leaves the signed 64-bit
@@ -68,7 +70,9 @@ class TimecodeConversion {
 /// either is not a timecode.
 std::string durationDisplay(std::string_view from, std::string_view to, double fps);
 
-/// Appends what `durationDisplay` returns.
-void appendDuration(std::string& text, std::string_view from, std::string_view to, double fps);
+// Put what `durationDisplay` returns. Of packed timecodes, it is counted on `base` frames a second,
+// which is at most `PackedTimecode::mostBase`.
+void putDuration(GrowingText& text, std::string_view from, std::string_view to, double fps);
+void putDuration(GrowingText& text, PackedTimecode from, PackedTimecode to, std::uint32_t base);
 
 }  // namespace clipvane

@@ -29,11 +29,9 @@ class PackedTimecode {
         return PackedTimecode(first.packed() | (last.packed() & 0xFF'0000) << 8);
     }
 
-    /// Four numbers below 100 in 16 bits each, the hours in the lowest.
-    static PackedTimecode ofFields(std::uint64_t fields) {
-        const std::uint64_t pairs = fields | fields >> 8;
-        return PackedTimecode(
-            static_cast<std::uint32_t>((pairs & 0xFFFF) | (pairs >> 16 & 0xFFFF'0000)));
+    /// Hours, minutes, seconds and frames, each below 100.
+    static constexpr PackedTimecode ofFields(const SmallFields& fields) {
+        return PackedTimecode(fields[0] | fields[1] << 8 | fields[2] << 16 | fields[3] << 24);
     }
 
     constexpr explicit PackedTimecode(std::uint32_t bits) : packed(bits) {}
@@ -41,10 +39,7 @@ class PackedTimecode {
 
     /// The text that was packed.
     void write(std::span<char, twoDigitLength> text) const {
-        std::uint64_t fields = packed;
-        fields = (fields | fields << 16) & 0x0000'FFFF'0000'FFFF;
-        fields = (fields | fields << 8) & 0x00FF'00FF'00FF'00FF;
-        writeFields(text, fields, ':');
+        writeFields(text, {hours(), packed >> 8 & 0xFF, packed >> 16 & 0xFF, frames()}, ':');
     }
 
     constexpr std::uint32_t hours() const { return packed & 0xFF; }
@@ -58,7 +53,9 @@ class PackedTimecode {
         return ((packed + (reach << 8 | reach << 16)) & 0x0080'8000) == 0;
     }
 
-    /// Frames, counted on `base` frames a second, which is at most 100.
+    /// What the counts below take, in frames a second.
+    static constexpr std::uint32_t mostBase = 100;
+    /// Frames, counted on `base` frames a second.
     constexpr std::uint32_t count(std::uint32_t base) const {
         const std::uint32_t minutes = hours() * 60 + (packed >> 8 & 0xFF);
         return (minutes * 60 + (packed >> 16 & 0xFF)) * base + frames();

@@ -95,32 +95,39 @@ constexpr bool fitsTwoDigitFields(std::int64_t count, std::int64_t base) {
     return count >= 0 && base <= hundred && count < hundred * 3600 * base;
 }
 
-/// Writes a timecode over `text`, with `separator` before the frames. `fields` holds four numbers
-/// below 100 in 16 bits each, the hours in the lowest.
-inline void writeFields(std::span<char, twoDigitLength> text, std::uint64_t fields,
+/// Hours, minutes, seconds and frames, each below 100.
+using SmallFields = std::array<std::uint32_t, 4>;
+
+/// The digits of the numbers below 100.
+inline constexpr auto twoDigits = [] {
+    std::array<std::array<char, 2>, 100> digits{};
+    for (std::size_t number = 0; number < digits.size(); ++number) {
+        digits[number] = {static_cast<char>('0' + number / 10),
+                          static_cast<char>('0' + number % 10)};
+    }
+    return digits;
+}();
+
+/// Writes a timecode over `text`, with `separator` before the frames.
+inline void writeFields(std::span<char, twoDigitLength> text, const SmallFields& fields,
                         char separator) {
-    // All four are split into digits at once. Below 100, a tenth is 103/1024.
-    const std::uint64_t tens = fields * 103 >> 10 & 0x000F'000F'000F'000F;
-    const std::uint64_t digits = (tens | (fields - tens * 10) << 8) + 0x3030'3030'3030'3030;
     char* const to = text.data();
-    for (unsigned i = 0; i < 4; ++i) {
-        to[3 * i] = static_cast<char>(digits >> 16 * i & 0xFF);
-        to[3 * i + 1] = static_cast<char>(digits >> (16 * i + 8) & 0xFF);
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        std::memcpy(to + 3 * i, twoDigits[fields[i]].data(), 2);
     }
     to[2] = ':';
     to[5] = ':';
     to[8] = separator;
 }
 
-/// The fields of the timecode of `count` frames, which must fit, as `writeFields` takes them.
-inline std::uint64_t fieldsOf(std::int64_t count, std::int64_t base) {
+/// The fields of the timecode of `count` frames, which must fit.
+inline SmallFields fieldsOf(std::int64_t count, std::int64_t base) {
     // For what fits, 32 bits are enough, and dividing them is several times as fast.
     const auto total = static_cast<std::uint32_t>(count);
     const auto divisor = static_cast<std::uint32_t>(base);
     const std::uint32_t seconds = total / divisor;
     const std::uint32_t minutes = seconds / 60;
-    return std::uint64_t{minutes / 60} | std::uint64_t{minutes % 60} << 16 |
-           std::uint64_t{seconds % 60} << 32 | std::uint64_t{total % divisor} << 48;
+    return {minutes / 60, minutes % 60, seconds % 60, total % divisor};
 }
 
 /// Writes the timecode of `count` frames, which must fit, over `text`, with `separator` before the
