@@ -58,7 +58,7 @@ void CommonTimelineXMLDelegate::didStartElement(XMLElement element, std::string_
 }
 
 void CommonTimelineXMLDelegate::foundCharacters(std::string_view characters) {
-    if (awaitsCharacters()) currentText += characters;
+    if (awaitsCharacters()) currentText.put(characters);
 }
 
 void CommonTimelineXMLDelegate::didEndElement(XMLElement element) {
@@ -134,7 +134,7 @@ void CommonTimelineXMLDelegate::setRange(const XMLAttributes& attributes, XMLTim
 
 void CommonTimelineXMLDelegate::setField(XMLElement element) {
     effort += currentText.size();
-    const ViewOrCopy cleaned = cleanedXMLText(currentText);
+    const ViewOrCopy cleaned = cleanedXMLText(currentText.view());
     const std::string_view text = cleaned.view();
     if (text.empty()) return;
     const auto fillTime = [&](XMLTime& field) {

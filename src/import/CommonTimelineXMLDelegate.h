@@ -11,6 +11,7 @@
 #include <string_view>
 
 #include <clipvane/EventList.h>
+#include "base/GrowingText.h"
 #include "import/XMLAttributes.h"
 #include "import/XMLElement.h"
 #include "import/XMLTiming.h"
@@ -70,7 +71,7 @@ class CommonTimelineXMLDelegate {
     /// Display names by asset id. A tree, because a hostile document can choose ids that collide in
     /// a hash table.
     std::map<std::string, std::string, std::less<>> assetNames;
-    std::string currentText;  ///< character data since the last element start, if it is awaited
+    GrowingText currentText;  ///< character data since the last element start, if it is awaited
     std::optional<PendingXMLEvent> event;  ///< that has begun, and has not ended
     std::size_t openFields = 0;  ///< elements of the pending event that wait for their text
     EventList events;            ///< those that have ended

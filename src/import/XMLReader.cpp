@@ -25,10 +25,11 @@
 namespace clipvane {
 namespace {
 
-// The parser counts in ints, and a piece that stays in the processor's cache is read faster. But
-// with every piece the parser starts a long comment or tag again, so pieces grow until it has read
-// past it.
-constexpr std::size_t smallestPiece = std::size_t{1} << 18;
+// The parser counts in ints and copies what it is given, so a large document is handed over in
+// pieces. Nearly every document is one piece: behind each but the last, the parser goes through it
+// again to count its lines. With every piece it also starts a long comment or tag again, so pieces
+// grow until it has read past it.
+constexpr std::size_t smallestPiece = std::size_t{1} << 26;
 constexpr std::size_t largestPiece = std::size_t{1} << 28;
 
 // What no timeline needs but a hostile document could ask for ends the reading as malformed XML

@@ -3,6 +3,7 @@
 
 #include "import/XMLText.h"
 
+#include <algorithm>
 #include <string>
 
 #include "base/Characters.h"
@@ -22,10 +23,11 @@ std::string replacingAll(std::string_view text, std::string_view what, std::stri
     }
 }
 
-/// Whether a text may hold what is replaced. Most are numbers, and hold neither character.
+/// Whether a text may hold what is replaced. Most are short numbers, and hold neither character.
 bool mayNeedReplacing(std::string_view text) {
-    constexpr auto npos = std::string_view::npos;
-    return text.find('%') != npos || (text.find(':') != npos && text.find("//") != npos);
+    const bool mayHold = std::ranges::any_of(text, [](char c) { return c == '%' || c == ':'; });
+    return mayHold &&
+           (text.find('%') != std::string_view::npos || text.find("//") != std::string_view::npos);
 }
 
 }  // namespace
