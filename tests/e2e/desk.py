@@ -167,12 +167,17 @@ class Desk:
         self.await_focus("text", "File name:")
         dialog = active_window()
         for _ in range(3):
-            press("ctrl+a")
-            type_text(str(path))
-            press("Return")
-            if comes(lambda: active_window() != dialog, patience=5):
-                return
+            if self.types_name(path):
+                press("Return")
+                if comes(lambda: active_window() != dialog, patience=5):
+                    return
         raise AssertionError(f"the dialog {title!r} does not take {path}")
+
+    def types_name(self, path):
+        """Types a path into the file dialog's name field, and tells whether it is there then."""
+        press("ctrl+a")
+        type_text(str(path))
+        return comes(lambda: access.text_of(self.find("text", "File name:")) == str(path), patience=5)
 
     def alert(self, message):
         """The showing alert: its texts, after its message."""
