@@ -25,11 +25,12 @@
 namespace clipvane {
 namespace {
 
-// The parser counts in ints and copies what it is given, so a large document is handed over in
-// pieces. Nearly every document is one piece: behind each but the last, the parser goes through it
-// again to count its lines. With every piece it also starts a long comment or tag again, so pieces
-// grow until it has read past it.
-constexpr std::size_t smallestPiece = std::size_t{1} << 26;
+// Behind each piece but the last the parser goes through it again to count its lines, so nearly
+// every document is one piece. But it copies what it is given, and counts it in ints: of a larger
+// one it gets pieces that stay in the processor's cache. As it starts a long comment or tag again
+// with every piece, pieces grow until it has read past it.
+constexpr std::size_t largestWhole = std::size_t{1} << 26;
+constexpr std::size_t smallestPiece = std::size_t{1} << 18;
 constexpr std::size_t largestPiece = std::size_t{1} << 28;
 
 // What no timeline needs but a hostile document could ask for ends the reading as malformed XML
@@ -74,7 +75,7 @@ class ParserRun {
         effortAllowed = mostEffort(data.size());
         XML_Status status = XML_STATUS_OK;
         bool isFinal = false;
-        std::size_t pieceSize = smallestPiece;
+        std::size_t pieceSize = data.size() <= largestWhole ? data.size() : smallestPiece;
         while (status == XML_STATUS_OK && !isFinal) {
             const std::string_view piece = data.substr(0, pieceSize);
             data.remove_prefix(piece.size());
