@@ -6,12 +6,14 @@
 #include <gtest/gtest.h>
 #include <unicode/unistr.h>
 
+#include <cstddef>
 #include <random>
 #include <vector>
 
 #include "support/AppendUTF8.h"
 #include "support/LongTest.h"
 #include "support/RowName.h"
+#include "support/Scale.h"
 
 namespace clipvane::test {
 namespace {
@@ -126,7 +128,7 @@ class Garbage {
 TEST(ReplaceInvalidUTF8, GeneratedGarbage_IsReplacedAsICUDoes) {
     CLIPVANE_LONG_TEST();
     Garbage garbage;
-    for (int i = 0; i < 200'000; ++i) {
+    for (std::size_t i = 0; i < scaled(200'000); ++i) {
         const std::string bytes = garbage.draw();
         std::string expected;
         icu::UnicodeString::fromUTF8(bytes).toUTF8String(expected);
@@ -138,7 +140,7 @@ TEST(ReplaceInvalidUTF8, GeneratedGarbage_IsReplacedAsICUDoes) {
 TEST(LastCodePoint, GeneratedGarbage_IsReadBackwardsAsForwards) {
     CLIPVANE_LONG_TEST();
     Garbage garbage;
-    for (int i = 0; i < 200'000; ++i) {
+    for (std::size_t i = 0; i < scaled(200'000); ++i) {
         const std::string bytes = garbage.draw();
         std::vector<CodePoint> forwards;
         for (std::string_view rest = bytes; !rest.empty();) {

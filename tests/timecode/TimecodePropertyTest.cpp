@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cinttypes>
+#include <cstddef>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -17,6 +18,7 @@
 #include <clipvane/Timecode.h>
 #include "judges/TimecodeJudge.h"
 #include "support/LongTest.h"
+#include "support/Scale.h"
 #include "support/ThrowingFatal.h"
 
 namespace clipvane::test {
@@ -212,17 +214,17 @@ TEST(Frames, EveryByteAtEveryPlaceOfATimecode_IsReadAsTheDescriptionSays) {
     }
 }
 
-TEST(Frames, AMillionTexts_AreReadAsTheDescriptionSays) {
+TEST(Frames, GeneratedTexts_AreReadAsTheDescriptionSays) {
     CLIPVANE_LONG_TEST();
     const ThrowingFatal throwing;
     Texts texts;
-    int read = 0;
-    int rejected = 0;
-    int fatal = 0;
-    for (int i = 0; i < 1'000'000; ++i) {
+    std::size_t read = 0;
+    std::size_t rejected = 0;
+    std::size_t fatal = 0;
+    constexpr std::size_t count = scaled(1'000'000);
+    for (std::size_t i = 0; i < count; ++i) {
         const std::string text = texts.draw();
-        const double fps =
-            standardFPSValues[static_cast<std::size_t>(i) % standardFPSValues.size()];
+        const double fps = standardFPSValues[i % standardFPSValues.size()];
         std::optional<std::int64_t> expected;
         bool isFatal = false;
         try {
@@ -238,9 +240,9 @@ TEST(Frames, AMillionTexts_AreReadAsTheDescriptionSays) {
         }
         ++(isFatal ? fatal : expected ? read : rejected);
     }
-    EXPECT_GT(read, 200'000);
-    EXPECT_GT(rejected, 200'000);
-    EXPECT_GT(fatal, 10'000);
+    EXPECT_GT(read, count / 5);
+    EXPECT_GT(rejected, count / 5);
+    EXPECT_GT(fatal, count / 100);
 }
 
 }  // namespace
