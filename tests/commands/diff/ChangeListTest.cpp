@@ -91,6 +91,8 @@ TEST(ChangeList, NamesThatWouldBeRead_AreBroken) {
     ASSERT_TRUE(made.text.has_value());
     EXPECT_EQ(readBack(*made.text), made.stretches);
     EXPECT_EQ(TimelineParser::parseEDL(*made.text)[0].clipName, "Clip 001");
+    EXPECT_THAT(*made.text,
+                HasSubstr(" X_a__b_FROM_CLIP_NAME:_c_001_AX_V_C_00:00:00:00_00:00:01:00\n\n"));
 }
 
 TEST(ChangeList, WhatAnEDLCannotSay_IsRefused) {
