@@ -14,10 +14,15 @@ namespace clipvane::cli {
 namespace {
 
 constexpr const char* rates =
-    "Timecodes count frames, and an EDL seldom says how many make a second.\n"
-    "  --fps 25          reads at 25: 00:00:10:24 stays, and is frame 274\n"
-    "  --fps 25 --to 24  converts afterwards: 00:00:10:24 becomes 00:00:10:23, frame 263\n"
+    "Timecodes count frames, and an EDL seldom says how many make a second.\n";
+constexpr const char* reading =
+    "  --fps 25          reads at 25: 00:00:10:24 stays, and is frame 274\n";
+constexpr const char* converting =
+    "  --fps 25 --to 24  converts afterwards: 00:00:10:24 becomes 00:00:10:23, frame 263\n";
+constexpr const char* guessing =
     "Without --fps a list that names no rate is read at 24, and that is said.\n";
+constexpr const char* stamping =
+    "  --fps 25          writes \"* FPS: 25\": 00:00:10:24 stays, and is frame 274\n";
 
 constexpr const char* statuses =
     "Status: 0 all well; 1 a file failed, and the others are done; 2 wrong use;\n"
@@ -43,8 +48,16 @@ class Formatter : public CLI::Formatter {
     std::string usage;
 };
 
+/// What the options of a command, or of all of them, do with rates.
+std::string ratesOf(const CLI::App& app) {
+    const bool isCommand = app.get_parent() != nullptr;
+    if (isCommand && app.get_option("--fps")->get_required()) return std::string(rates) + stamping;
+    const bool converts = !isCommand || app.get_option_no_throw("--to") != nullptr;
+    return std::string(rates) + reading + (converts ? converting : "") + guessing;
+}
+
 void explain(CLI::App& app, const std::string& summary, const std::string& usage) {
-    auto formatter = std::make_shared<Formatter>(summary + ".\n\n" + rates, usage);
+    auto formatter = std::make_shared<Formatter>(summary + ".\n\n" + ratesOf(app), usage);
     formatter->label("REQUIRED", "");
     formatter->label("Positionals", "Arguments");
     app.formatter(formatter);

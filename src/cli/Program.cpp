@@ -82,7 +82,11 @@ std::string wordsFor(const CLI::ParseError& error, const CLI::App& app) {
         return words.substr(0, words.find(':')) +
                (isMissing ? " needs a value" : " is given more than once");
     }
-    if (dynamic_cast<const CLI::ExtrasError*>(&error)) return "there is no option " + rest.front();
+    // Before what is missing: a name that begins with a dash is taken for an option.
+    const bool isOption = !rest.empty() && rest.front().starts_with('-');
+    if (isOption || dynamic_cast<const CLI::ExtrasError*>(&error)) {
+        return "there is no option " + rest.front();
+    }
     return words;
 }
 

@@ -23,9 +23,8 @@ void addRateOption(Options& options, const std::string& name, std::optional<doub
 
 }  // namespace
 
-void addFPSOption(Options& options, ReadingOptions& reading) {
-    addRateOption(options, "--fps", reading.fps,
-                  "read at R frames a second, whatever the file names");
+void addFPSOption(Options& options, ReadingOptions& reading, const std::string& description) {
+    addRateOption(options, "--fps", reading.fps, description);
 }
 
 void addToOption(Options& options, ReadingOptions& reading) {

@@ -21,7 +21,9 @@ struct ReadingOptions {
     std::vector<std::string> names;      ///< as the user wrote them
 };
 
-void addFPSOption(Options& options, ReadingOptions& reading);
+void addFPSOption(
+    Options& options, ReadingOptions& reading,
+    const std::string& description = "read at R frames a second, whatever the file names");
 void addToOption(Options& options, ReadingOptions& reading);
 /// `values` is what --help shows, "edl|xml|jsonl".
 void addFromOption(Options& options, ReadingOptions& reading, const std::string& values);

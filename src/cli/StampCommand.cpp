@@ -32,7 +32,7 @@ class StampCommand : public Command {
     }
 
     void addOptions(Options& options) override {
-        addFPSOption(options, reading);
+        addFPSOption(options, reading, "the rate that the EDL was written at");
         options.require("--fps");
         addFromOption(options, reading, "edl");
         addOutputOption(options, output, "write to FILE; \"-\" is standard output");

@@ -41,6 +41,8 @@ class Options(ProgramTest):
                 (["list", "a.edl", "-o"], "--output needs a value; see clipvane-cli list --help"),
                 (["check", "--bold", "a.edl", "--thin"],
                  "there is no option --bold; see clipvane-cli check --help"),
+                (["list", "-dash.edl"], "there is no option -dash.edl; see clipvane-cli list --help"),
+                (["check", "--bold"], "there is no option --bold; see clipvane-cli check --help"),
                 (["--bold", "check", "a.edl"], "there is no option --bold; see clipvane-cli check --help"),
                 (["list", "--fps", "[25]", "a.edl"], '--fps: "[25]" is no rate: say 25, 23.976 or 24000/1001; '
                  "above 0 and at most 1000; see clipvane-cli list --help"),
@@ -62,6 +64,16 @@ class Options(ProgramTest):
             self.assertEqual((done.status, done.said), (OK, ""))
             self.assertIn("--fps 25 --to 24  converts afterwards", done.text)
         self.assertRegex(self.run_program("--version").text, r"\Aclipvane-cli \d+\.\d+\.\d+\n\Z")
+
+    def test_the_help_of_a_command_speaks_of_its_own_options(self):
+        for command, wanted, unwanted in [("list", "converts afterwards", "writes"),
+                                          ("check", "reads at 25", "--to"),
+                                          ("stamp", 'writes "* FPS: 25"', "Without --fps"),
+                                          ("stamp", "the rate that the EDL was written at", "--to")]:
+            with self.subTest(command=command):
+                text = self.run_program(command, "--help").text
+                self.assertIn(wanted, text)
+                self.assertNotIn(unwanted, text)
 
     def test_the_rates_in_the_help_are_true(self):
         self.put("a.edl", "001 AX V C 00:00:10:24 00:00:10:24 00:00:10:24 00:00:10:24\n")
