@@ -35,7 +35,7 @@ std::string_view helpText() {
            "included because reliable AAF support requires dedicated interchange libraries.\n"
            "\n"
            "Clipvane is made by the Clipvane developers.\n"
-           "Its source and documents come with it.";
+           "Its man page and its README tell what to do with an EDL that names no frame rate.";
 }
 
 }  // namespace clipvane
