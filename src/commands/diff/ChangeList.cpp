@@ -131,7 +131,7 @@ class Writer {
         std::vector<ChangeStretch> parts;
         auto next = stretches.begin();
         for (const NewEvent& event : compared.diff.newEvents) {
-            if (event.track != track || !hasFrames(event.kind)) continue;
+            if (event.track != track) continue;
             std::int64_t from = event.times.recordIn;
             while (next != stretches.end() && next->to <= from) ++next;
             auto inside = next;
@@ -198,7 +198,6 @@ std::vector<ChangeStretch> changeStretches(const CutDiff& diff, std::uint32_t tr
             !longest.empty() &&
             subtractChecked(longest.back().from, longest.back().oldFrom) ==
                 subtractChecked(next.from, next.oldFrom) &&
-            next.from >= longest.back().to &&
             (next.from == longest.back().to || isBlackInBoth(longest.back(), next));
         if (continues) {
             longest.back().to = next.to;

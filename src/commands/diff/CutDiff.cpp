@@ -79,11 +79,10 @@ std::vector<PairedStretch> pairedStretches(const CutPair& pair, const std::vecto
         const CutEvent& n = pair.newCut[run.newEvent];
         const CutEvent& o = pair.oldCut[run.oldEvent];
         if (!n.hasFrames()) continue;
-        const bool isPlain = n.kind == Kind::plain;
-        stretches.push_back({run.newEvent, run.oldEvent,
-                             isPlain ? addChecked(n.offset(), run.from) : n.recordIn,
-                             isPlain ? addChecked(n.offset(), run.to) : n.recordOut,
-                             isPlain ? addChecked(o.offset(), run.from) : o.recordIn});
+        const std::int64_t newFrom = addChecked(n.offset(), run.from);
+        stretches.push_back({run.newEvent, run.oldEvent, newFrom,
+                             addChecked(newFrom, n.framesOf(run.to - run.from)),
+                             addChecked(o.offset(), run.from)});
     }
     return stretches;
 }

@@ -22,7 +22,7 @@ struct CutEvent {
     std::uint32_t row = 0;  ///< in its list, from 0
     std::uint32_t track = 0;
     std::uint32_t reel = 0;
-    std::uint32_t name = 0;  ///< 0 when it has none, or when it is no label but the content
+    std::uint32_t name = 0;  ///< 0 when it has none
     std::uint32_t source = 0;
     std::uint32_t content = 0;
     Kind kind = Kind::plain;

@@ -4,7 +4,6 @@
 #include "commands/diff/CutPair.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <limits>
 #include <map>
@@ -107,17 +106,16 @@ class Numbering {
     using Thing = std::tuple<Kind, std::uint32_t, std::int64_t, std::int64_t, std::int64_t>;
 
   public:
-    Numbering(By by, Sources sources) : by(by), sources(std::move(sources)) {}
+    explicit Numbering(Sources sources) : sources(std::move(sources)) {}
 
     void number(ListedEvents& listed) {
         auto odd = listed.odd.begin();
         for (CutEvent& event : listed.cut) {
             event.source = sources.of(event);
-            if (by != By::reel) event.name = 0;
             if (event.kind == Kind::plain) {
                 event.content = plainContents.of(event.source, [&] { return contentCount++; });
             } else if (event.kind == Kind::odd) {
-                const std::uint32_t timecodes = oddTimecodes.of((odd++)->texts);
+                const std::uint32_t timecodes = oddTimecodes.of(*odd++);
                 event.content = contentOf({event.kind, event.source, timecodes, 0, 0});
             } else {
                 event.content = contentOf({event.kind, event.source, event.sourceIn,
@@ -132,11 +130,10 @@ class Numbering {
         return thingContents.of(things.of(thing), [&] { return contentCount++; });
     }
 
-    By by;
     Sources sources;
     Table plainContents;
     Table thingContents;
-    Numbers<std::array<std::uint32_t, 4>> oddTimecodes;
+    Numbers<OddTimecodes> oddTimecodes;
     Numbers<Thing> things;
     std::uint32_t contentCount = 0;
 };
@@ -188,7 +185,7 @@ CutPair makeComparable(const CutList& oldList, const CutList& newList, std::opti
             for (CutEvent& event : *cut) event.track = 0;
         }
     }
-    Numbering numbering(pair.by, {pair.by, texts.of("AX"), olds.cut, news.cut});
+    Numbering numbering({pair.by, texts.of("AX"), olds.cut, news.cut});
     numbering.number(olds);
     numbering.number(news);
     pair.oldCut = inRecordOrder(std::move(olds.cut));

@@ -102,9 +102,8 @@ class NewDescriber {
     bool isSlipped(const NewEvent& result, std::uint32_t n) const {
         const CutEvent& event = newCut[n];
         const CutEvent& partner = partnerOf(n);
-        return result.pieces == 1 && result.parts == 1 && event.kind == Kind::plain &&
-               event.frames() == partner.frames() && event.sourceIn != partner.sourceIn &&
-               shiftBetween(partner, event) != 0;
+        return result.pieces == 1 && result.parts == 1 && event.frames() == partner.frames() &&
+               event.sourceIn != partner.sourceIn && shiftBetween(partner, event) != 0;
     }
 
     void describeContent(NewEvent& result, std::uint32_t n) const {

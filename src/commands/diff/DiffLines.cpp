@@ -26,10 +26,9 @@ struct Change {
     const OldEvent* oldEvent = nullptr;  ///< without a partner, or the partner
 
     bool isBlack() const { return line.kind == ReportLine::Kind::black; }
-    bool isOfOld() const { return line.kind == ReportLine::Kind::ofOld; }
     /// Black has none.
     Words words() const {
-        if (!isOfOld() && newEvent != nullptr) return newEvent->words;
+        if (newEvent != nullptr) return newEvent->words;
         return oldEvent != nullptr ? oldEvent->words : Words();
     }
 

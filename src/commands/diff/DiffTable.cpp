@@ -25,8 +25,7 @@ std::string range(std::string_view in, std::string_view out) {
 
 /// Whether nothing is to be said of an event but by how much it is shifted, or moved.
 bool isOnly(const NewEvent& event, Word word) {
-    return event.words == Words{word} && event.newFrames == 0 && event.againFrames == 0 &&
-           event.elsewhereFrames == 0;
+    return event.words == Words{word} && event.againFrames == 0 && event.elsewhereFrames == 0;
 }
 
 bool areAlike(const NewEvent& a, const NewEvent& b) {

@@ -13,7 +13,7 @@ namespace clipvane::diff {
 // An unusual rate is looked at no sooner than a timecode asks for it.
 FrameCounter::FrameCounter(const Counting& counting)
     : counting(counting),
-      usualBase(counting.fps >= 1 && counting.fps <= 100
+      usualBase(counting.fps >= 1 && counting.fps <= PackedTimecode::mostBase
                     ? static_cast<std::uint32_t>(frameBase(counting.fps))
                     : 0) {}
 

@@ -3,6 +3,7 @@
 
 #include "commands/diff/ListedEvent.h"
 
+#include <cstddef>
 #include <limits>
 #include <optional>
 
@@ -97,9 +98,8 @@ ListedEvents listEvents(const CutList& list, TextNumbers& texts, TrackNumbers& t
         result.name = texts.of(givenName(event.clipName, event.eventNumber));
         if (times.read(event, result)) {
             OddTimecodes& odd = listed.odd.emplace_back();
-            odd.event = listed.cut.size() - 1;
-            for (std::size_t i = 0; i < odd.texts.size(); ++i) {
-                odd.texts[i] = times.textNumber(event.timecodes[i]);
+            for (std::size_t i = 0; i < odd.size(); ++i) {
+                odd[i] = times.textNumber(event.timecodes[i]);
             }
         }
     }

@@ -4,7 +4,6 @@
 #pragma once
 
 #include <array>
-#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -33,16 +32,13 @@ class TrackNumbers {
 };
 
 /// The four timecodes of an odd event: equal numbers mean equal texts.
-struct OddTimecodes {
-    std::size_t event = 0;  ///< index into the cut
-    std::array<std::uint32_t, 4> texts{};
-};
+using OddTimecodes = std::array<std::uint32_t, 4>;
 
 /// The events of a list that take part, row by row, without source and content.
 struct ListedEvents {
     Cut cut;
-    std::vector<OddTimecodes> odd;
-    bool isFromEDL = true;  ///< all of the list, what takes no part among it
+    std::vector<OddTimecodes> odd;  ///< of the cut's odd events, in order
+    bool isFromEDL = true;          ///< all of the list, what takes no part among it
 };
 
 /// Lists all events but black, which is reel BL or BLK in an EDL, and a gap in an XML timeline.

@@ -111,7 +111,7 @@ class Finder {
         const auto free = [](const Cut& cut, const std::vector<bool>& taken) {
             std::vector<std::uint32_t> events;
             for (std::uint32_t i = 0; i < cut.size(); ++i) {
-                if (!taken[i] && cut[i].hasFrames()) events.push_back(i);
+                if (!taken[i]) events.push_back(i);
             }
             return events;
         };

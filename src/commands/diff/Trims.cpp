@@ -58,7 +58,6 @@ class Finder {
         }
         Reach reach;
         for (const Partnership& part : parts) {
-            if (part.isRetimed()) return;
             const std::int64_t gap = reach.add(oldCut[part.oldEvent], part.oldEvent);
             trims[n].inside = addChecked(trims[n].inside, gap);
         }
