@@ -134,6 +134,52 @@ class Formats(ProgramTest):
             self.assertEqual(row, {key: "" if value is None else str(value)
                                    for key, value in line.items()})
 
+    def lines(self, old, new, *options):
+        self.put("old.edl", edl(old))
+        self.put("new.edl", edl(new))
+        done = self.run_program("diff", "--fps", "25", "-f", "jsonl", *options, "old.edl",
+                                "new.edl")
+        return [json.loads(line) for line in done.text.splitlines()]
+
+    def test_each_count_stands_in_its_field(self):
+        *lines, sums = self.lines(
+            "A 100-200 @0 on V1, B 0-50 @0 on V2, C 0-100 @0 on V3, D 0-40 @0 on V4, "
+            "D 52-100 @40 on V4, E 0-50 @0 on V5, F 0-50 @0 on V6, F 20-50 @50 on V6, "
+            "I 0-10 @0 on V7, J 0-10 @10 on V7, L 0-9 @10 on V8, K 0-10 @0 on V8",
+            "A 90-205 @300 on V1, B 7-57 @12 on V2, C 0-40 @0 on V3, C 52-70 @40 on V3, "
+            "C 80-100 @58 on V3, D 3-100 @0 on V4, E 0-50 @0 on V5, E 10-30 @50 on V5, "
+            "F 0-50 @0 on V6, I 0-10 @0 on V7, J 0-10 @15 on V7, K 0-10 @0 on V8, "
+            "M 0-8 @10 on V8")
+        found = [" ".join([line["track"], *line["change"]] +
+                          [f"{key} {value}" for key, value in line.items() if isinstance(value, int)
+                           and (value or not key.endswith("Frames"))]) for line in lines]
+        self.assertEqual(found, [
+            "V1 trimmed shifted oldRow 1 newRow 1 head 10 tail 5 inside 0 shift 310 newFrames 15",
+            "V2 slipped shifted oldRow 2 newRow 2 sourceShift 7 shift 12 newFrames 7 goneFrames 7",
+            "V3 split oldRow 3 newRow 3 piece 1 pieces 3 shift 0 goneFrames 22",
+            "V3 trimmed split shifted oldRow 3 newRow 4 head -12 tail 0 inside 0 piece 2 pieces 3 "
+            "shift -12 goneFrames 22",
+            "V3 trimmed split shifted oldRow 3 newRow 5 head -10 tail 0 inside 0 piece 3 pieces 3 "
+            "shift -22 goneFrames 22",
+            "V4 trimmed joined shifted oldRow 4 newRow 6 head -3 tail 0 inside 12 parts 2 shift -3 "
+            "newFrames 12 goneFrames 3",
+            "V5 again newRow 8 againFrames 20",
+            "V6 fewer oldRow 8 fewerFrames 30",
+            "V7 black longer 5",
+            "V7 shifted oldRow 10 newRow 11 shift 5",
+            "V8 gone oldRow 11 goneFrames 9",
+            "V8 new newRow 13 inPlaceOf 11 newFrames 8"])
+        counts = {key: value for key, value in sums["sums"].items() if key != "events"}
+        self.assertEqual(counts, {
+            "newEvents": 13, "oldEvents": 12, "kept": 436, "keptInOld": 436, "new": 42, "again": 20,
+            "gone": 41, "fewer": 30, "longer": 315})
+
+    def test_sums_of_a_track_count_what_either_list_has_there(self):
+        sums = self.lines("A 0-50 @0, B 0-30 @50", "A 0-50 @0, B 0-30 @50 on A", "--track",
+                          "A")[-1]["sums"]
+        self.assertEqual([sums[key] for key in ("newEvents", "oldEvents", "kept", "keptInOld")],
+                         [1, 0, 30, 0])
+
     def test_csv_quotes_and_keeps_a_line_for_each_change(self):
         clip = '<clip name="the &quot;best&quot;&#10;take" start="0s" duration="2s" offset="0s"/>'
         self.put("old.xml", f"<a>{clip}</a>")
@@ -149,6 +195,27 @@ class Formats(ProgramTest):
         self.put("new.edl", edl("A 100-160 @140, A 160-210 @200, B 0-50 @250"))
         text = self.run_program("diff", "--fps", "25", "old.edl", "new.edl").text
         self.assertIn("20 frames from elsewhere in OLD", text)
+
+    def test_frames_are_told_where_no_word_tells_them(self):
+        for old, new, phrase in (
+                ("A 0-50 @0", "A 0-50 @0, A 40-60 @50",
+                 "new; 10 frames new; 10 frames again"),
+                ("A 0-100 @0, A 50-100 @300", "A 0-100 @0, A 0-70 @200, A 70-100 @320",
+                 "again; 50 frames again; 20 frames from elsewhere in OLD"),
+                ("A 0-100 in 50 @0, A 0-100 in 80 @50", "A 0-100 in 50 @0, A 0-100 in 50 @50",
+                 "retimed: 100 in 80 to 100 in 50; 50 frames again"),
+                ("Z 0-10 @50, A 0-100 @100", "Z 0-10 @0, A 40-60 @90, A 0-100 @200",
+                 "split 1/2; shifted 100 later; 20 frames again"),
+                ("A 100-200 @0", "A 90-197 @0",
+                 "trimmed: head 10 longer, tail 3 shorter; shifted 10 later"),
+                ("A 100-180 @50, A 160-210 @200, B 0-50 @250",
+                 "A 100-160 @150, A 160-210 @210, B 0-50 @260",
+                 "shifted 10 later; 20 frames from elsewhere in OLD")):
+            with self.subTest(phrase):
+                self.put("old.edl", edl(old))
+                self.put("new.edl", edl(new))
+                text = self.run_program("diff", "--fps", "25", "old.edl", "new.edl").text
+                self.assertIn(f"  {phrase}  ", text)
 
     def test_verbose_lists_each(self):
         old = A + B

@@ -19,7 +19,7 @@ struct CutPair {
     Cut oldCut;
     Cut newCut;
     By by = By::reel;
-    bool comparesTracks = true;       ///< false when two lists with events share no track text
+    bool comparesTracks = true;       ///< false: no text in common, or both lists are empty
     std::vector<std::string> tracks;  ///< the text of each track's number, by NEW, then OLD
 };
 

@@ -109,6 +109,13 @@ TEST(ChangeList, WhatAnEDLCannotSay_IsRefused) {
     EXPECT_FALSE(make({cut("A", 0, 50, 0, "")}, {cut("A", 0, 50, 0, "")}).text);
 }
 
+TEST(ChangeList, WhatHasNoFrames_OverlapsNothing) {
+    const std::vector<Row> rows{cut("A", 0, 50, 0), {"P", 10, 10, 20, 20}, {"B", 0, 50, 0, -1}};
+    const auto made = make(rows, rows);
+    ASSERT_TRUE(made.text.has_value());
+    EXPECT_EQ(readBack(*made.text), (std::vector{ChangeStretch{0, 50, 0}}));
+}
+
 TEST(ChangeList, TracksThatAreNotCompared_AreV) {
     const auto made = make({cut("A", 0, 50, 0, "one")}, {cut("A", 0, 50, 10, "two")});
     ASSERT_TRUE(made.text.has_value());

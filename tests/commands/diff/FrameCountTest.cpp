@@ -34,6 +34,7 @@ TEST(FrameCount, NonDrop_CountsEveryNumber) {
     EXPECT_EQ(countFrames("00:01:00;02", {29.97, false}), 1802);
     EXPECT_EQ(countFrames("00:01:00:02", {100, false}), 6002);
     EXPECT_EQ(countFrames("00:01:00:02", {101, false}), 6062);
+    EXPECT_EQ(countFrames("99:99:99:99", {12000, false}), 4349268099) << "not in 32 bits";
     EXPECT_EQ(countFrames("100:00:00:00", {24, false}), 8640000);
     EXPECT_EQ(countFrames("-1:00:00:00", {24, false}), -86400);
 }

@@ -38,6 +38,7 @@ class PairMaker {
         for (std::size_t i = 0; i < count; ++i) {
             if (overlaps && random.oneIn(3)) place = number(30);
             events.push_back(event(place));
+            if (random.oneIn(12)) events.push_back(events.back());
             place = events.back().times[3].value_or(place) + (random.oneIn(5) ? number(6) : 0);
         }
         if (random.oneIn(10)) std::ranges::reverse(events);
@@ -101,7 +102,7 @@ class PairMaker {
         JudgedEvent& chosen = events[at];
         const bool isTimed =
             std::ranges::all_of(chosen.times, [](auto t) { return t.has_value(); });
-        switch (random.below(8)) {
+        switch (random.below(9)) {
             case 0:
                 events.erase(events.begin() + static_cast<std::ptrdiff_t>(at));
                 break;
@@ -140,6 +141,11 @@ class PairMaker {
             case 6:
                 chosen.name = random.pick(std::array{"", "x", "\u00E9", "z"});
                 break;
+            case 7: {
+                const JudgedEvent equal = chosen;
+                events.push_back(equal);
+                break;
+            }
             default:
                 std::swap(chosen, events[random.below(events.size())]);
                 lineUp(events);

@@ -96,6 +96,29 @@ INSTANTIATE_TEST_SUITE_P(Reels, Sources,
                                          SourceCase{"TheOnlyOne", "A", true, "first", "second"}),
                          RowName());
 
+diff::By toldBy(const std::vector<TimelineEvent>& olds, const std::vector<TimelineEvent>& news) {
+    const diff::Events oldEvents = olds;
+    const diff::Events newEvents = news;
+    return diff::compareCuts({oldEvents, at25}, {newEvents, at25}).by;
+}
+
+TEST(SourcesOfOneFormatOrTwo, AreToldByReel_OnlyIfAllEventsComeFromEDLs) {
+    const auto edl = eventOf("EDL", "A", "");
+    const auto xml = eventOf("XML", "A", "clip");
+    EXPECT_EQ(toldBy({edl}, {edl}), diff::By::reel);
+    EXPECT_EQ(toldBy({edl}, {xml}), diff::By::name);
+    EXPECT_EQ(toldBy({xml}, {edl}), diff::By::name);
+    EXPECT_EQ(toldBy({edl}, {xml, edl}), diff::By::name);
+    EXPECT_EQ(toldBy({edl, xml}, {edl}), diff::By::name);
+}
+
+TEST(ListsWithoutEvents, HaveOneTrackThatIsNotCompared) {
+    const diff::Events none;
+    const auto diff = diff::compareCuts({none, at25}, {none, at25});
+    EXPECT_FALSE(diff.comparesTracks);
+    EXPECT_THAT(diff.tracks, testing::ElementsAre(""));
+}
+
 constexpr auto composed = "Pr\u00EAt";
 constexpr auto decomposed = "Pre\u0302t";
 
@@ -140,6 +163,20 @@ TEST(Texts, CanonicallyEquivalentTimecodesThatAreNone_AreEqual) {
     newEvent.sourceIn = "Pret";
     const diff::Events others = std::vector{newEvent};
     EXPECT_EQ(diff::compareCuts({olds, at25}, {others, at25}).sums.of(Word::notCompared), 2);
+}
+
+TEST(Texts, ATimecodeThatIsNone_EqualsNoTimecode) {
+    auto none = eventOf("EDL", "A", "");
+    none.sourceIn = "?";
+    for (int frames = 0; frames < 10; ++frames) {
+        // Odd, for it ends before it begins.
+        auto backwards = eventOf("EDL", "A", "");
+        backwards.sourceIn = "0" + std::to_string(frames) + ":00:00:00";
+        none.recordIn = backwards.recordIn = "00:00:03:00";
+        const diff::Events news = std::vector{backwards};
+        const diff::Events olds = std::vector{none};
+        EXPECT_EQ(diff::compareCuts({olds, at25}, {news, at25}).sums.of(Word::notCompared), 2);
+    }
 }
 
 TEST(Texts, TextsThatOnlyLookAlike_AreNotOne) {
