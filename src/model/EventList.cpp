@@ -44,6 +44,7 @@ EventList::EventList(const std::vector<TimelineEvent>& events) {
 EventList::EventList(const EventList& other)
     : texts(other.texts),
       rows(other.rows),
+      timecodes(other.timecodes),
       shown(other.shown),
       joinLines(other.joinLines),
       wideTexts(other.wideTexts),
@@ -110,11 +111,11 @@ std::uint32_t EventList::addRow(const FoundEvent& event) {
         throw std::length_error("more events than a list can number");
     }
     const auto index = static_cast<std::uint32_t>(rows.size());
-    EventRow& row = rows.push_back({});
+    EventRow& row = addEmptyRow();
     placeTexts(row, index, event);
-    for (std::size_t i = 0; i < row.timecodes.size(); ++i) {
+    for (std::size_t i = 0; i < event.timecodes.size(); ++i) {
         const FoundTimecode& timecode = event.timecodes[i];
-        row.timecodes[i] =
+        timecodes[index][i] =
             timecode.oddText().empty() ? timecode.usual() : keepOdd(timecode.oddText());
     }
     if (!event.comments.empty()) {
@@ -124,6 +125,12 @@ std::uint32_t EventList::addRow(const FoundEvent& event) {
     row.isHighlighted = event.highlighted;
     row.isJoined = event.isJoined;
     return index;
+}
+
+EventRow& EventList::addEmptyRow() {
+    // They are there already if memory was lacking for their row.
+    if (timecodes.size() == rows.size()) timecodes.push_back({});
+    return rows.push_back({});
 }
 
 void EventList::placeTexts(EventRow& row, std::uint32_t index, const FoundEvent& event) {
@@ -180,11 +187,20 @@ std::size_t EventList::convertTimecodes(const TimecodeConversion& conversion) {
     const auto staysPacked = [&](RowTimecode timecode) {
         return timecode.isPacked() && conversion.fits(timecode.packed());
     };
+    // In nearly every list all are so. Then the rows are gone through in a row, with those that are
+    // no longer shown.
+    if (timecodes.allOf(
+            [&](const RowTimecodes& four) { return std::ranges::all_of(four, staysPacked); })) {
+        timecodes.forEach([&](RowTimecodes& four) {
+            for (RowTimecode& timecode : four) timecode = conversion.convert(timecode.packed());
+        });
+        return shown.size() * std::tuple_size_v<RowTimecodes>;
+    }
     // First those that may need memory or stop the program, in the order of the list.
     std::size_t count = 0;
     BlockVector<std::string> odd;
     for (const std::uint32_t index : shown) {
-        for (const RowTimecode timecode : rows[index].timecodes) {
+        for (const RowTimecode timecode : timecodes[index]) {
             if (timecode.isEmpty() || staysPacked(timecode)) continue;
             std::array<char, twoDigitLength> room;
             std::string text(timecodeText(timecode, room));
@@ -195,7 +211,7 @@ std::size_t EventList::convertTimecodes(const TimecodeConversion& conversion) {
     // The rest cannot fail.
     std::uint32_t nextOdd = 0;
     for (const std::uint32_t index : shown) {
-        for (RowTimecode& timecode : rows[index].timecodes) {
+        for (RowTimecode& timecode : timecodes[index]) {
             if (timecode.isEmpty()) continue;
             if (staysPacked(timecode)) {
                 timecode = conversion.convert(timecode.packed());

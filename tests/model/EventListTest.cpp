@@ -362,6 +362,32 @@ TEST(EventList, Converted_EveryTimecodeIsWhatItsTextBecomes) {
     }
 }
 
+/// Lists whose timecodes all have the usual form are converted another way.
+TEST(EventList, Converted_OfUsualTimecodesAlone_ShownOnesAreCounted) {
+    constexpr std::size_t shown = 3'000;
+    EventList list;
+    for (std::size_t i = 0; i < shown + 2; ++i) {
+        list.push_back(changed([&](TimelineEvent& event) {
+            event.sourceIn = timecode(static_cast<std::int64_t>(i), 25, false);
+        }));
+    }
+    list.erase(1'500);
+    list.erase(0);
+    auto events = records(list);
+    EXPECT_EQ(list.convertTimecodes({25, 24}), 4 * shown);
+    convertRecords(events, 25, 24);
+    EXPECT_EQ(records(list), events);
+}
+
+/// A count beyond 64 bits would stop the program.
+TEST(EventList, Converted_AnErasedEventsImpossibleTimecodeIsNotCounted) {
+    EventList list(std::vector{fullEvent(), changed([](TimelineEvent& event) {
+                                   event.recordOut = "9223372036854775807:0:0:0";
+                               })});
+    list.erase(1);
+    EXPECT_EQ(list.convertTimecodes({25, 24}), 4U);
+}
+
 TEST(EventList, Converted_ErasedEventsStayAndCountNot) {
     EventList list(allKinds());
     const auto size = list.size();

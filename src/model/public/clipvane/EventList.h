@@ -35,7 +35,7 @@ struct KeptEvent {
     std::string_view clipName;
     std::string_view reelID;
     std::string_view track;
-    std::array<RowTimecode, 4> timecodes;  ///< source in and out, record in and out
+    RowTimecodes timecodes;
     std::string_view format;
     std::string_view comments;
     bool highlighted = false;
@@ -114,6 +114,7 @@ class EventList {
 
     std::uint32_t addRow(const FoundEvent& event);
     std::uint32_t addRow(const TimelineEvent& event);
+    EventRow& addEmptyRow();
     void placeTexts(EventRow& row, std::uint32_t index, const FoundEvent& event);
     RowTimecode keepOdd(std::string_view timecode);
     KeptEvent keptAt(std::uint32_t index) const;
@@ -121,7 +122,8 @@ class EventList {
 
     TextStore texts;
     BlockVector<EventRow> rows;  // as they came; none moves, and a row's index is its identity
-    std::vector<std::uint32_t> shown;  // the list: indexes of rows
+    BlockVector<RowTimecodes> timecodes;  // by the row's index
+    std::vector<std::uint32_t> shown;     // the list: indexes of rows
     JoinLines joinLines = nullptr;
 
     // What few rows have, by the row's index.
@@ -141,7 +143,7 @@ inline KeptEvent EventList::keptAt(std::uint32_t index) const {
             .clipName = column(1),
             .reelID = column(2),
             .track = column(3),
-            .timecodes = row.timecodes,
+            .timecodes = timecodes[index],
             .format = wide != nullptr ? wide->format : formatText(row.format),
             .comments = row.hasComments ? std::string_view(comments.at(index)) : "",
             .highlighted = row.isHighlighted,

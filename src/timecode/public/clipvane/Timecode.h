@@ -63,7 +63,7 @@ class TimecodeConversion {
     // A whole second stays one at any rate. So most timecodes change in their frames alone, and
     // those do not depend on the other fields.
     static constexpr std::uint8_t notAlone = 0xFF;
-    std::array<std::uint8_t, 100> newFrames{};  ///< by the frames, or `notAlone`
+    std::array<std::uint8_t, 256> newFrames{};  ///< by the byte of the frames, or `notAlone`
 };
 
 /// The time between two timecodes, such as "00:00:10:00 (250 frames)"; never below zero. "-" when

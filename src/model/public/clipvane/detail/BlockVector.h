@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <utility>
 #include <vector>
@@ -32,6 +33,18 @@ class BlockVector {
     Element& operator[](std::size_t index) { return blocks[index / blockSize][index % blockSize]; }
     const Element& operator[](std::size_t index) const {
         return blocks[index / blockSize][index % blockSize];
+    }
+
+    template <class Action>
+    void forEach(Action action) {
+        for (auto& block : blocks) {
+            for (Element& element : block) action(element);
+        }
+    }
+    template <class Condition>
+    bool allOf(Condition condition) const {
+        return std::ranges::all_of(
+            blocks, [&](const auto& block) { return std::ranges::all_of(block, condition); });
     }
 
     Element& push_back(Element element) {
