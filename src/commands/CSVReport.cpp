@@ -3,7 +3,6 @@
 
 #include <clipvane/CSVReport.h>
 
-#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <string_view>
@@ -11,6 +10,7 @@
 #include <clipvane/FrameRate.h>
 #include <clipvane/Timecode.h>
 #include <clipvane/detail/TwoDigitFields.h>
+#include "base/Characters.h"
 #include "commands/EventText.h"
 
 namespace clipvane {
@@ -22,30 +22,6 @@ constexpr std::string_view header =
 
 constexpr std::string_view next = "\",\"";  // closes a field and opens another
 
-constexpr bool isReplaced(char c) {
-    return c == '"' || c == '\n';
-}
-
-/// Whether any of eight characters is a quote or a line feed.
-bool holdsReplaced(std::uint64_t characters) {
-    constexpr std::uint64_t ones = 0x0101'0101'0101'0101;
-    const std::uint64_t quotes = characters ^ ones * '"';
-    const std::uint64_t lineFeeds = characters ^ ones * '\n';
-    // One less than a byte that is zero has the highest bit, which the byte has not.
-    return (((quotes - ones) & ~quotes) | ((lineFeeds - ones) & ~lineFeeds)) & ones << 7;
-}
-
-/// Whether nothing in the field is replaced. Looks at eight characters at a time.
-bool isPlain(std::string_view field) {
-    constexpr std::size_t step = 8;
-    if (field.size() < step) return std::ranges::none_of(field, isReplaced);
-    const std::size_t last = field.size() - step;
-    for (std::size_t at = 0;; at = std::min(at + step, last)) {
-        if (holdsReplaced(eightCharacters(field.data() + at))) return false;
-        if (at == last) return true;
-    }
-}
-
 void putReplacing(GrowingText& text, std::string_view field) {
     for (const char c : field) {
         if (c == '"') text.put('"');
@@ -55,10 +31,10 @@ void putReplacing(GrowingText& text, std::string_view field) {
 
 /// Puts what stands between a field's quotes.
 void putField(GrowingText& text, std::string_view field) {
-    if (isPlain(field)) {
-        text.put(field);
-    } else {
+    if (holdsEither(field, '"', '\n')) {
         putReplacing(text, field);
+    } else {
+        text.put(field);
     }
 }
 

@@ -3,7 +3,6 @@
 
 #include "import/XMLText.h"
 
-#include <algorithm>
 #include <string>
 
 #include "base/Characters.h"
@@ -25,8 +24,7 @@ std::string replacingAll(std::string_view text, std::string_view what, std::stri
 
 /// Whether a text may hold what is replaced. Most are short numbers, and hold neither character.
 bool mayNeedReplacing(std::string_view text) {
-    const bool mayHold = std::ranges::any_of(text, [](char c) { return c == '%' || c == ':'; });
-    return mayHold &&
+    return holdsEither(text, '%', ':') &&
            (text.find('%') != std::string_view::npos || text.find("//") != std::string_view::npos);
 }
 

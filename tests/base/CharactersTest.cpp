@@ -69,6 +69,27 @@ TEST(Characters, ASCIIClasses_HoldNothingElse) {
     EXPECT_EQ(allThat(isASCIIWhiteSpace), (std::set<char32_t>{9, 10, 11, 12, 13, 32}));
 }
 
+TEST(HoldsEither, FindsEachOfTheTwoAtEveryPlaceOfEveryLength) {
+    for (std::size_t size = 0; size < 40; ++size) {
+        EXPECT_FALSE(holdsEither(std::string(size, '#'), '"', '\n')) << size;
+        for (std::size_t at = 0; at < size; ++at) {
+            for (int byte = 0; byte < 256; ++byte) {
+                std::string text(size, '#');
+                text[at] = static_cast<char>(byte);
+                EXPECT_EQ(holdsEither(text, '"', '\n'), byte == '"' || byte == '\n')
+                    << byte << " at " << at << " of " << size;
+            }
+        }
+    }
+}
+
+TEST(HoldsEither, LooksAtTheTextAlone) {
+    const std::string_view quoted = "\"12345678\"";
+    for (std::size_t size = 0; size <= 8; ++size) {
+        EXPECT_FALSE(holdsEither(quoted.substr(1, size), '"', '\n')) << size;
+    }
+}
+
 TEST(ASCIILower, ChangesTheTwentySixCapitalsOnly) {
     for (int byte = 0; byte < 256; ++byte) {
         const bool isCapital = byte >= 'A' && byte <= 'Z';
