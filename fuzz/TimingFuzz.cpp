@@ -18,20 +18,21 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     const auto time = unlessFatal([&] { return xmlTime(value, fps); });
     const auto judged = unlessFatal([&] { return test::judgedTiming(value, fps); });
-    require(time.has_value() == judged.has_value() && (!time || time->text == *judged),
+    require(time.has_value() == judged.has_value() && (!time || time->text() == *judged),
             "the timing is the described one");
     const auto frames = unlessFatal([&] { return xmlFrames(value, fps); });
     require(frames == unlessFatal([&] { return test::judgedTimingFrames(value, fps); }),
             "the frames are counted as described");
-    if (time && time->frames) {
-        const auto again = unlessFatal([&] { return xmlFrames(time->text, fps); });
-        require(!again || *again == time->frames, "the kept count is the one of the text");
+    if (time) {
+        const auto kept = unlessFatal([&] { return time->frames(fps); });
+        const auto again = unlessFatal([&] { return xmlFrames(time->text(), fps); });
+        require(kept == again, "the kept count is the one of the text");
     }
 
     // What was written for a number of frames is read as that number. At an impossible rate, at
     // which zero seconds are still zero frames, it cannot be written.
     if (!frames || !*frames) return 0;
-    const auto written = unlessFatal([&] { return xmlFrames(xmlTimeOf(**frames, fps).text, fps); });
+    const auto written = unlessFatal([&] { return xmlFrames(XMLTime(**frames, fps).text(), fps); });
     require(!written || written == frames, "a timecode counts the frames that it was written for");
     return 0;
 }

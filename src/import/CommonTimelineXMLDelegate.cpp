@@ -138,7 +138,7 @@ void CommonTimelineXMLDelegate::setField(XMLElement element) {
     const std::string_view text = cleaned.view();
     if (text.empty()) return;
     const auto fillTime = [&](XMLTime& field) {
-        if (field.text.empty()) field = time(text);
+        if (field.isEmpty()) field = time(text);
     };
     switch (element) {
         case XMLElement::clipName:
@@ -170,8 +170,8 @@ void CommonTimelineXMLDelegate::setField(XMLElement element) {
             fillTime(event->recordOut);
             break;
         case XMLElement::duration:
-            if (event->sourceOut.text.empty()) event->sourceOut = end(event->sourceIn, text);
-            if (event->recordOut.text.empty()) event->recordOut = end(event->recordIn, text);
+            if (event->sourceOut.isEmpty()) event->sourceOut = end(event->sourceIn, text);
+            if (event->recordOut.isEmpty()) event->recordOut = end(event->recordIn, text);
             break;
         default:
             break;
@@ -192,8 +192,8 @@ void CommonTimelineXMLDelegate::completeEvent() {
                    .clipName = event->clipName,
                    .reelID = event->reelID,
                    .track = event->track,
-                   .timecodes = {event->sourceIn.text, event->sourceOut.text, event->recordIn.text,
-                                 event->recordOut.text},
+                   .timecodes = {event->sourceIn.found(), event->sourceOut.found(),
+                                 event->recordIn.found(), event->recordOut.found()},
                    .format = "XML",
                    .comments = event->comments,
                    .highlighted = event->highlighted,
@@ -204,9 +204,9 @@ void CommonTimelineXMLDelegate::completeEvent() {
 
 /// The timecode `duration` after `start`, or empty text when either has no frame count.
 XMLTime CommonTimelineXMLDelegate::end(const XMLTime& start, std::string_view duration) const {
-    const auto first = xmlFrames(start, fps);
+    const auto first = start.frames(fps);
     const auto count = first ? xmlFrames(duration, fps) : std::nullopt;
-    return count ? xmlTimeOf(addChecked(*first, *count), fps) : XMLTime();
+    return count ? XMLTime(addChecked(*first, *count), fps) : XMLTime();
 }
 
 }  // namespace clipvane

@@ -3,6 +3,9 @@
 
 #include "import/XMLTiming.h"
 
+#include <array>
+
+#include <clipvane/FrameRate.h>
 #include <clipvane/Timecode.h>
 #include "base/Number.h"
 #include "import/XMLText.h"
@@ -48,26 +51,34 @@ std::optional<std::int64_t> cleanedFrames(std::string_view text, double fps) {
 
 }  // namespace
 
+XMLTime::XMLTime(std::int64_t frames, double fps)
+    : packed(PackedTimecode::ofCount(frames, frameBase(fps))), count(frames) {
+    constexpr bool usesDropFrameSeparator = false;
+    if (!packed) odd = timecode(frames, fps, usesDropFrameSeparator);
+}
+
+std::string XMLTime::text() const {
+    if (!packed) return odd;
+    std::array<char, twoDigitLength> text;
+    packed->write(text);
+    return {text.data(), text.size()};
+}
+
+std::optional<std::int64_t> XMLTime::frames(double fps) const {
+    return count ? count : xmlFrames(odd, fps);
+}
+
 XMLTime xmlTime(std::string_view value, double fps) {
     const ViewOrCopy cleaned = cleanedXMLText(value);
     const std::string_view text = cleaned.view();
     if (text.empty() || isNegativeNumber(text)) return {};
-    if (holdsColon(text)) return {std::string(text), {}};
+    if (holdsColon(text)) return XMLTime(text);
     const auto count = cleanedFrames(text, fps);
-    return count ? xmlTimeOf(*count, fps) : XMLTime{std::string(text), {}};
-}
-
-XMLTime xmlTimeOf(std::int64_t frames, double fps) {
-    constexpr bool usesDropFrameSeparator = false;
-    return {timecode(frames, fps, usesDropFrameSeparator), frames};
+    return count ? XMLTime(*count, fps) : XMLTime(text);
 }
 
 std::optional<std::int64_t> xmlFrames(std::string_view value, double fps) {
     return cleanedFrames(cleanedXMLText(value).view(), fps);
-}
-
-std::optional<std::int64_t> xmlFrames(const XMLTime& time, double fps) {
-    return time.frames ? time.frames : xmlFrames(time.text, fps);
 }
 
 }  // namespace clipvane

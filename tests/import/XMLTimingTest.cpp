@@ -21,7 +21,7 @@ struct TimingRow {
 class XMLTiming : public testing::TestWithParam<TimingRow> {};
 
 TEST_P(XMLTiming, IsATimecode) {
-    EXPECT_EQ(xmlTime(GetParam().value, GetParam().fps).text, GetParam().timecode);
+    EXPECT_EQ(xmlTime(GetParam().value, GetParam().fps).text(), GetParam().timecode);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -132,7 +132,7 @@ struct FramesRow {
 /// The count that a text was written for is kept, and is the one that the text has.
 TEST_P(XMLTiming, HasTheFramesOfItsText) {
     const XMLTime time = xmlTime(GetParam().value, GetParam().fps);
-    EXPECT_EQ(xmlFrames(time, GetParam().fps), xmlFrames(time.text, GetParam().fps));
+    EXPECT_EQ(time.frames(GetParam().fps), xmlFrames(time.text(), GetParam().fps));
 }
 
 class XMLFrames : public testing::TestWithParam<FramesRow> {};
@@ -195,7 +195,7 @@ struct TimecodeRow {
 class XMLTimecode : public testing::TestWithParam<TimecodeRow> {};
 
 TEST_P(XMLTimecode, IsWritten) {
-    EXPECT_EQ(xmlTimeOf(GetParam().frames, GetParam().fps).text, GetParam().timecode);
+    EXPECT_EQ(XMLTime(GetParam().frames, GetParam().fps).text(), GetParam().timecode);
 }
 
 INSTANTIATE_TEST_SUITE_P(

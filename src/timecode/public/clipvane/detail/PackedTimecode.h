@@ -34,6 +34,12 @@ class PackedTimecode {
         return PackedTimecode(fields[0] | fields[1] << 8 | fields[2] << 16 | fields[3] << 24);
     }
 
+    /// The timecode of `count` frames, counted on `base` frames a second, if it has that form.
+    static std::optional<PackedTimecode> ofCount(std::int64_t count, std::int64_t base) {
+        if (!fitsTwoDigitFields(count, base)) return std::nullopt;
+        return ofFields(fieldsOf(count, base));
+    }
+
     constexpr explicit PackedTimecode(std::uint32_t bits) : packed(bits) {}
     constexpr std::uint32_t bits() const { return packed; }
 
