@@ -45,6 +45,10 @@ DetailScrollView::DetailScrollView(QWidget* detailStack, CommentsBlockView* comm
     scrollOnKey(Qt::Key_PageDown, QAbstractSlider::SliderPageStepAdd);
 }
 
+void DetailScrollView::showTop() {
+    verticalScrollBar()->setValue(0);
+}
+
 void DetailScrollView::scrollOnKey(Qt::Key key, QAbstractSlider::SliderAction action) {
     auto* shortcut = new QShortcut(QKeySequence(Qt::ALT | key), this);
     connect(shortcut, &QShortcut::activated, verticalScrollBar(),

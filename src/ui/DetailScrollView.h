@@ -14,11 +14,14 @@ class CommentsBlockView;
 ///
 /// Where the window is too low for the stack, the comments and their caret come into view when they
 /// get the keyboard focus, with each key typed, and when the view is resized. Otherwise the view
-/// stays where the user put it; Alt with Page Up and Page Down scrolls it without a mouse.
+/// stays where the user put it until another timeline is opened; Alt with Page Up and Page Down
+/// scrolls it without a mouse.
 class DetailScrollView : public QScrollArea {
   public:
     /// `comments` is part of `detailStack`.
     DetailScrollView(QWidget* detailStack, CommentsBlockView* comments);
+
+    void showTop();
 
   protected:
     void resizeEvent(QResizeEvent* event) override;

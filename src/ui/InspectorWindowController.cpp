@@ -91,13 +91,13 @@ PanelView* InspectorWindowController::makeDetailPanel() {
                      [this] { textDidChange(); });
     auto* comments = new CommentsBlockView(commentsView);
     detailStack->setCommentsBlock(comments);
-    auto* scrollView = new DetailScrollView(detailStack, comments);
+    detailScrollView = new DetailScrollView(detailStack, comments);
     // The scroll bar stands in the panel's margin, so the stack gets the whole content width.
-    const int bar = scrollView->verticalScrollBar()->sizeHint().width();
+    const int bar = detailScrollView->verticalScrollBar()->sizeHint().width();
     auto* wholeTexts = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_F1), detailStack);
     QObject::connect(wholeTexts, &QShortcut::activated, detailStack, [this] { showWholeTexts(); });
     auto* panel = new PanelView("Selected Event");
-    panel->addContent(scrollView, QMargins(0, 0, -bar, 0));
+    panel->addContent(detailScrollView, QMargins(0, 0, -bar, 0));
     return panel;
 }
 

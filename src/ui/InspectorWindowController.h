@@ -14,6 +14,7 @@
 namespace clipvane {
 
 class CommentsView;
+class DetailScrollView;
 class DetailStackView;
 class EventTableView;
 class FrameRatePopup;
@@ -73,6 +74,7 @@ class InspectorWindowController : public DocumentCommands {
     MainLayoutView* rootView;                // these and all below are the window's
     EventTableView* tableView;
     TextLabel* emptyEventsLabel;
+    DetailScrollView* detailScrollView;
     DetailStackView* detailStack;
     FrameRatePopup* fpsPopup;
     CommentsView* commentsView;

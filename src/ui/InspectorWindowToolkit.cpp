@@ -11,6 +11,7 @@
 #include "ui/AlertDialog.h"
 #include "ui/AppLog.h"
 #include "ui/CommentsView.h"
+#include "ui/DetailScrollView.h"
 #include "ui/DetailStackView.h"
 #include "ui/EventTableView.h"
 #include "ui/FrameRatePopup.h"
@@ -47,6 +48,7 @@ void InspectorWindowController::showNewEvents(std::optional<std::size_t> selecte
     const QScopedValueRollback guard(reloading, true);
     tableModel.allIsNew();
     showEvent(selected);
+    detailScrollView->showTop();
 }
 
 void InspectorWindowController::removeRow(std::size_t row, const std::function<void()>& erase,

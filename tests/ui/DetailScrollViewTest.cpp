@@ -143,6 +143,17 @@ TEST_F(DetailScrollViewTest, AnotherEvent_NothingScrolls) {
     EXPECT_EQ(scrolled(), 5);
 }
 
+TEST_F(DetailScrollViewTest, AnotherTimeline_BeginsAtItsTop) {
+    scrollTo(end());
+    open(writeEDL("next.edl", 2));
+    settle();
+    EXPECT_EQ(scrolled(), 0);
+    scrollTo(end());
+    open(writeEDL("empty.edl", 0));
+    settle();
+    EXPECT_EQ(scrolled(), 0);
+}
+
 TEST_F(DetailScrollViewTest, ClickedInHalf_MovesNoMoreThanItMust) {
     focusByKey();
     type("one");
