@@ -3,8 +3,6 @@
 
 #include "cli/Commands.h"
 
-#include <utility>
-
 namespace clipvane::cli {
 
 std::vector<std::unique_ptr<Command>> allCommands() {

@@ -12,7 +12,6 @@
 #include "cli/OutputPlan.h"
 #include "cli/ReadAgain.h"
 #include "cli/ReadingOptions.h"
-#include "cli/Reason.h"
 #include "cli/TimelineReading.h"
 
 namespace clipvane::cli {

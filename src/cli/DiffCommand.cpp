@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <limits>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include <clipvane/diff/CutDiff.h>
@@ -18,7 +17,6 @@
 #include "cli/Rate.h"
 #include "cli/ReadingOptions.h"
 #include "cli/Reason.h"
-#include "cli/Shown.h"
 #include "cli/Table.h"
 #include "cli/Terminal.h"
 #include "commands/diff/ChangeList.h"

@@ -12,7 +12,6 @@
 #include "base/UTF8.h"
 #include "cli/DropFrame.h"
 #include "cli/Impossible.h"
-#include "cli/Reason.h"
 #include "cli/TimelineReading.h"
 #include "import/XMLReader.h"
 

@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include <optional>
 #include <string_view>
 
 namespace clipvane::cli {

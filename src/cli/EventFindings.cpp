@@ -8,7 +8,6 @@
 #include <cstdint>
 #include <optional>
 #include <string>
-#include <utility>
 
 #include <clipvane/FrameRate.h>
 #include <clipvane/detail/TwoDigitFields.h>

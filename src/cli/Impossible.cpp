@@ -3,7 +3,6 @@
 
 #include "cli/Impossible.h"
 
-#include <cerrno>
 #include <new>
 #include <stdexcept>
 

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 
 #include <string>
-#include <utility>
 
 #include "cli/Commands.h"
 #include "cli/Impossible.h"

@@ -7,8 +7,6 @@
 
 #include <clipvane/CSVReport.h>
 #include <clipvane/FrameRate.h>
-#include "base/Characters.h"
-#include "base/Number.h"
 #include "cli/Counted.h"
 #include "cli/EventLines.h"
 #include "cli/Shown.h"

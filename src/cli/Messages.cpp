@@ -3,10 +3,7 @@
 
 #include "cli/Messages.h"
 
-#include <sys/ioctl.h>
 #include <unistd.h>
-
-#include <cstdlib>
 
 #include "cli/Descriptors.h"
 #include "cli/Shown.h"

@@ -4,10 +4,7 @@
 #include "cli/ReadAgain.h"
 
 #include <algorithm>
-#include <array>
-#include <cstdint>
 #include <map>
-#include <optional>
 #include <utility>
 #include <vector>
 

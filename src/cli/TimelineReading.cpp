@@ -16,7 +16,6 @@
 #include "cli/Reason.h"
 #include "import/EDLReader.h"
 #include "import/FrameRateDetection.h"
-#include "import/XMLReader.h"
 
 namespace clipvane::cli {
 namespace {

@@ -4,7 +4,6 @@
 #pragma once
 
 #include <optional>
-#include <string>
 #include <vector>
 
 #include "cli/FileIdentity.h"

@@ -4,7 +4,6 @@
 #include "cli/UnreadLine.h"
 
 #include <algorithm>
-#include <array>
 #include <vector>
 
 #include "base/Characters.h"

@@ -4,7 +4,6 @@
 #include "ui/ControlPainter.h"
 
 #include <QPainter>
-#include <QPainterPath>
 #include <QStyleOption>
 #include <algorithm>
 

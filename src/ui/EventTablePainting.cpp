@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
-#include <QHeaderView>
 #include <QPaintEvent>
 #include <QPainter>
 #include <algorithm>

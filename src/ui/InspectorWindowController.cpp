@@ -18,7 +18,6 @@
 #include "ui/Fonts.h"
 #include "ui/FrameMinimumSize.h"
 #include "ui/FrameRatePopup.h"
-#include "ui/Geometry.h"
 #include "ui/HelpWindow.h"
 #include "ui/MainLayoutView.h"
 #include "ui/PanelView.h"

@@ -9,7 +9,6 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <string_view>
 
 #include <clipvane/Alert.h>
 #include <clipvane/Error.h>
