@@ -14,11 +14,6 @@
 namespace clipvane {
 namespace {
 
-bool equalsIgnoringCase(std::string_view text, std::string_view lowerCase) {
-    return std::equal(text.begin(), text.end(), lowerCase.begin(), lowerCase.end(),
-                      [](char a, char b) { return asciiLower(a) == b; });
-}
-
 /// Whether an unsigned literal that `from_chars` called out of range is too large rather than too
 /// small: whether its first non-zero digit, moved by the exponent, stands left of the point.
 bool isTooLarge(std::string_view literal, bool hexadecimal) {
@@ -56,16 +51,11 @@ std::int64_t parseShortDigits(std::string_view text) {
 }
 
 std::optional<double> parseUnsigned(std::string_view text) {
-    if (equalsIgnoringCase(text, "inf") || equalsIgnoringCase(text, "infinity")) {
-        return std::numeric_limits<double>::infinity();
-    }
-    if (equalsIgnoringCase(text, "nan")) return std::numeric_limits<double>::quiet_NaN();
-
     const bool hexadecimal = text.size() > 2 && text[0] == '0' && asciiLower(text[1]) == 'x';
     if (hexadecimal) text.remove_prefix(2);
-    // from_chars would also take "nan(...)" and a sign of its own.
-    if (text.empty() || !(text[0] == '.' || isASCIIDigit(static_cast<unsigned char>(text[0])) ||
-                          (hexadecimal && std::isxdigit(static_cast<unsigned char>(text[0]))))) {
+    // from_chars would also take a sign of its own, "nan(...)", and names behind "0x".
+    if (text.starts_with('-') || text.ends_with(')')) return std::nullopt;
+    if (hexadecimal && text[0] != '.' && !std::isxdigit(static_cast<unsigned char>(text[0]))) {
         return std::nullopt;
     }
     double value = 0;

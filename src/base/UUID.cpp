@@ -3,6 +3,7 @@
 
 #include <clipvane/UUID.h>
 
+#include <charconv>
 #include <cstring>
 
 namespace clipvane {
@@ -12,13 +13,6 @@ constexpr std::size_t textLength = 36;
 
 constexpr bool isHyphenPosition(std::size_t position) {
     return position == 8 || position == 13 || position == 18 || position == 23;
-}
-
-std::optional<std::uint8_t> hexValue(char c) {
-    if (c >= '0' && c <= '9') return static_cast<std::uint8_t>(c - '0');
-    if (c >= 'A' && c <= 'F') return static_cast<std::uint8_t>(c - 'A' + 10);
-    if (c >= 'a' && c <= 'f') return static_cast<std::uint8_t>(c - 'a' + 10);
-    return std::nullopt;
 }
 
 std::mt19937_64 seededEngine() {
@@ -46,17 +40,12 @@ std::string UUID::text() const {
 std::optional<UUID> UUID::parse(std::string_view text) {
     if (text.size() != textLength) return std::nullopt;
     UUID uuid;
-    std::size_t digit = 0;
-    for (std::size_t i = 0; i < textLength; ++i) {
-        if (isHyphenPosition(i)) {
-            if (text[i] != '-') return std::nullopt;
-            continue;
-        }
-        const auto value = hexValue(text[i]);
-        if (!value) return std::nullopt;
-        std::uint8_t& byte = uuid.bytes[digit / 2];
-        byte = static_cast<std::uint8_t>(byte << 4 | *value);
-        ++digit;
+    std::size_t position = 0;
+    for (std::uint8_t& byte : uuid.bytes) {
+        if (isHyphenPosition(position) && text[position++] != '-') return std::nullopt;
+        const char* const digits = text.data() + position;
+        if (std::from_chars(digits, digits + 2, byte, 16).ptr != digits + 2) return std::nullopt;
+        position += 2;
     }
     return uuid;
 }
