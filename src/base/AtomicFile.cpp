@@ -64,18 +64,6 @@ void keepPermissions(int file, const struct stat& replaced) {
     static_cast<void>(uninterrupted([&] { return ::fchmod(file, mode); }));
 }
 
-/// Zero or an errno value.
-int writeAll(int file, std::string_view bytes) {
-    while (!bytes.empty()) {
-        const ssize_t put =
-            uninterrupted([&] { return ::write(file, bytes.data(), bytes.size()); });
-        if (put < 0) return errno;
-        if (put == 0) return EIO;  // nothing was taken, and no reason given: no use in going on
-        bytes.remove_prefix(static_cast<std::size_t>(put));
-    }
-    return 0;
-}
-
 /// Writes all that the file `from` holds to `to`. Zero or an errno value.
 int copyAll(int from, int to) {
     if (uninterrupted([&] { return ::lseek(from, 0, SEEK_SET); }) != 0) return errno;

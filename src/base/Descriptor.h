@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <string_view>
 #include <utility>
 
 namespace clipvane {
@@ -50,6 +51,21 @@ class Descriptor {
 /// Opens as open(2) does, again when a signal interrupted it. Not open, with errno set, on failure.
 inline Descriptor openFile(const char* path, int flags, mode_t mode = 0) {
     return Descriptor(uninterrupted([&] { return ::open(path, flags, mode); }));
+}
+
+/// Writes all of `bytes`. Where that fails, `retry` tells, with errno set, whether to go on. Zero
+/// or an errno value.
+inline int writeAll(int descriptor, std::string_view bytes,
+                    bool (*retry)(int descriptor) = nullptr) {
+    while (!bytes.empty()) {
+        const ssize_t put =
+            uninterrupted([&] { return ::write(descriptor, bytes.data(), bytes.size()); });
+        if (put < 0 && retry != nullptr && retry(descriptor)) continue;
+        if (put < 0) return errno;
+        if (put == 0) return EIO;  // nothing was taken, and no reason given: no use in going on
+        bytes.remove_prefix(static_cast<std::size_t>(put));
+    }
+    return 0;
 }
 
 }  // namespace clipvane

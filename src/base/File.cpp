@@ -45,18 +45,6 @@ class GrowingBytes {
     std::size_t used = 0;
 };
 
-/// Zero, or the errno value of what failed.
-int readToEnd(int descriptor, GrowingBytes& bytes) {
-    while (true) {
-        if (bytes.freeCount() == 0) bytes.grow();
-        const ssize_t got =
-            uninterrupted([&] { return ::read(descriptor, bytes.free(), bytes.freeCount()); });
-        if (got < 0) return errno;
-        if (got == 0) return 0;
-        bytes.use(static_cast<std::size_t>(got));
-    }
-}
-
 /// Refuses all but a regular file.
 Result<void> checkKind(const struct stat& status, const std::filesystem::path& path) {
     if (S_ISREG(status.st_mode)) return {};
@@ -67,6 +55,20 @@ Result<void> checkKind(const struct stat& status, const std::filesystem::path& p
 }
 
 }  // namespace
+
+tl::expected<FileBytes, int> readToEnd(int descriptor, std::size_t expected,
+                                       bool (*retry)(int descriptor)) {
+    GrowingBytes bytes(expected);
+    while (true) {
+        if (bytes.freeCount() == 0) bytes.grow();
+        const ssize_t got =
+            uninterrupted([&] { return ::read(descriptor, bytes.free(), bytes.freeCount()); });
+        if (got < 0 && retry != nullptr && retry(descriptor)) continue;
+        if (got < 0) return tl::unexpected(errno);
+        if (got == 0) return bytes.take();
+        bytes.use(static_cast<std::size_t>(got));
+    }
+}
 
 Result<FileBytes> readFile(const std::filesystem::path& path) try {
     const auto failed = [&](int code) { return tl::unexpected(fileError("read", path, code)); };
@@ -84,9 +86,9 @@ Result<FileBytes> readFile(const std::filesystem::path& path) try {
     if (auto checked = checkKind(status, path); !checked) return tl::unexpected(checked.error());
 
     // One byte more than the size lets the last read report the end instead of growing first.
-    GrowingBytes bytes(static_cast<std::size_t>(status.st_size) + 1);
-    if (const int code = readToEnd(file.number(), bytes)) return failed(code);
-    return bytes.take();
+    auto bytes = readToEnd(file.number(), static_cast<std::size_t>(status.st_size) + 1);
+    if (!bytes) return failed(bytes.error());
+    return std::move(*bytes);
 } catch (const std::bad_alloc&) {
     return tl::unexpected(fileError("read", path, ENOMEM));
 }

@@ -73,12 +73,7 @@ std::optional<std::string> logLine(std::chrono::system_clock::time_point time,
 
 void appendLogLine(const std::filesystem::path& path, std::string_view line) {
     const Descriptor file = openLog(path);
-    while (file.isOpen() && !line.empty()) {
-        const ssize_t put =
-            uninterrupted([&] { return ::write(file.number(), line.data(), line.size()); });
-        if (put <= 0) return;
-        line.remove_prefix(static_cast<std::size_t>(put));
-    }
+    if (file.isOpen()) static_cast<void>(writeAll(file.number(), line));
 }
 
 void writeLogLine(const std::filesystem::path& path, std::chrono::system_clock::time_point time,

@@ -19,11 +19,12 @@
 namespace clipvane::cli {
 namespace {
 
-constexpr std::size_t largestTransfer = 0x7ffff000;  // what the kernel moves in one call
-constexpr std::size_t firstPiece = 65536;
+constexpr std::size_t usualRoom = 65536;
 
-/// Waits until the descriptor is ready for `event`; true when there is reason to try again.
-bool waitFor(int descriptor, short event) {
+/// Where the stream itself would not wait, waits until it is ready for `event`; true when there is
+/// reason to try again.
+template <short event>
+bool waitFor(int descriptor) {
     if (errno != EAGAIN) return false;
     pollfd waiting{descriptor, event, 0};
     return uninterrupted([&] { return ::poll(&waiting, 1, -1); }) > 0;
@@ -60,39 +61,16 @@ std::optional<int> namedDescriptor(const std::filesystem::path& path) {
     return std::nullopt;
 }
 
-Result<std::string> readAll(int descriptor) {
-    std::string bytes;
-    std::size_t used = 0;
-    while (true) {
-        if (used == bytes.size()) bytes.resize(std::max(2 * used, firstPiece));
-        const std::size_t count = std::min(bytes.size() - used, largestTransfer);
-        const ssize_t got =
-            uninterrupted([&] { return ::read(descriptor, bytes.data() + used, count); });
-        if (got < 0) {
-            if (waitFor(descriptor, POLLIN)) continue;
-            return tl::unexpected(systemError("read", errno));
-        }
-        if (got == 0) break;
-        used += static_cast<std::size_t>(got);
-    }
-    bytes.resize(used);
-    return bytes;
+Result<FileBytes> readStream(int descriptor) {
+    return readToEnd(descriptor, usualRoom, waitFor<POLLIN>).map_error([](int code) {
+        return systemError("read", code);
+    });
 }
 
-int writeAll(int descriptor, std::string_view bytes) {
-    while (!bytes.empty()) {
-        const std::size_t count = std::min(bytes.size(), largestTransfer);
-        const ssize_t put = uninterrupted([&] { return ::write(descriptor, bytes.data(), count); });
-        if (put < 0) {
-            if (waitFor(descriptor, POLLOUT)) continue;
-            const int code = errno;
-            if (code == EPIPE) endByBrokenPipe();
-            return code;
-        }
-        if (put == 0) return EIO;  // nothing was taken, and no reason given
-        bytes.remove_prefix(static_cast<std::size_t>(put));
-    }
-    return 0;
+int writeStream(int descriptor, std::string_view bytes) {
+    const int code = writeAll(descriptor, bytes, waitFor<POLLOUT>);
+    if (code == EPIPE) endByBrokenPipe();
+    return code;
 }
 
 void prepareStandardFiles() {

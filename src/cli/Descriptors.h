@@ -5,10 +5,10 @@
 
 #include <filesystem>
 #include <optional>
-#include <string>
 #include <string_view>
 
 #include <clipvane/Error.h>
+#include "base/File.h"
 
 namespace clipvane::cli {
 
@@ -20,11 +20,11 @@ std::optional<int> namedDescriptor(const std::filesystem::path& path);
 
 /// Reads to the end, and waits for more where the stream itself would not. Fails with the system's
 /// error.
-Result<std::string> readAll(int descriptor);
+Result<FileBytes> readStream(int descriptor);
 
 /// Writes all of `bytes`, waiting likewise. Zero or an errno value. A pipe that nobody reads any
 /// more ends the program as SIGPIPE does.
-int writeAll(int descriptor, std::string_view bytes);
+int writeStream(int descriptor, std::string_view bytes);
 
 /// Makes the standard files that are closed fail where they are used, so that no other file takes
 /// their numbers; lets a file-size limit be an error like others.

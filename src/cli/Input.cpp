@@ -3,8 +3,6 @@
 
 #include "cli/Input.h"
 
-#include <cstring>
-#include <memory>
 #include <system_error>
 #include <utility>
 
@@ -28,12 +26,6 @@ bool isFolder(const std::filesystem::path& path) {
 /// The file to read: of a folder that is one timeline, the document in it.
 std::filesystem::path documentOf(const std::filesystem::path& place) {
     return isBundleName(place) && isFolder(place) ? place / "Info.fcpxml" : place;
-}
-
-FileBytes toFileBytes(const std::string& text) {
-    auto bytes = std::make_unique_for_overwrite<char[]>(text.size());
-    std::memcpy(bytes.get(), text.data(), text.size());
-    return {std::move(bytes), text.size()};
 }
 
 }  // namespace
@@ -61,7 +53,7 @@ std::optional<FileIdentity> Input::identity() const {
 }
 
 Result<FileBytes> Input::read() const {
-    if (stream) return possibly([&] { return readAll(*stream).map(toFileBytes); });
+    if (stream) return possibly([&] { return readStream(*stream); });
     auto bytes = readFile(documentOf(place));
     if (!bytes) return tl::unexpected(reworded(bytes.error(), "read"));
     return std::move(*bytes);

@@ -21,7 +21,7 @@ constexpr std::string_view clearLine = "\r\x1b[K";
 
 /// What cannot be said there cannot be said anywhere.
 void write(std::string_view text) {
-    static_cast<void>(writeAll(STDERR_FILENO, text));
+    static_cast<void>(writeStream(STDERR_FILENO, text));
 }
 
 }  // namespace

@@ -80,7 +80,7 @@ Result<void> Output::flush() {
 }
 
 Result<void> Output::hand(std::string_view bytes) const {
-    const int code = writeAll(descriptor, bytes);
+    const int code = writeStream(descriptor, bytes);
     if (code != 0) return tl::unexpected(systemError("written", code));
     return {};
 }
