@@ -234,11 +234,4 @@ int AtomicFile::linkAt(const std::filesystem::path& name) const {
     return uninterrupted(link) == 0 ? 0 : errno;
 }
 
-Result<void> writeFileAtomically(const std::filesystem::path& destination, std::string_view text) {
-    auto file = AtomicFile::create(destination);
-    if (!file) return tl::unexpected(std::move(file.error()));
-    if (auto written = file->write(text); !written) return written;
-    return file->commit();
-}
-
 }  // namespace clipvane

@@ -67,7 +67,4 @@ class AtomicFile {
     std::filesystem::path temporary;  ///< the content's present name; empty while it has none
 };
 
-/// Writes `text` as the whole content of the file at `destination`, as `AtomicFile` does.
-Result<void> writeFileAtomically(const std::filesystem::path& destination, std::string_view text);
-
 }  // namespace clipvane

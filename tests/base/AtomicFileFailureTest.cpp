@@ -13,9 +13,9 @@
 #include <utility>
 #include <vector>
 
-#include "base/AtomicFile.h"
 #include "base/File.h"
 #include "base/SystemCalls.h"
+#include "base/WriteAtomically.h"
 #include "support/TemporaryFolder.h"
 
 namespace clipvane::test {

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "base/AtomicFile.h"
+#include "base/WriteAtomically.h"
 #include "support/TemporaryFolder.h"
 
 namespace clipvane::test {

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "base/WriteAtomically.h"
 #include "support/TemporaryFolder.h"
 #include "support/WithoutPrivileges.h"
 
