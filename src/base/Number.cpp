@@ -94,6 +94,13 @@ std::optional<std::int64_t> parseInteger(std::string_view text) {
     return value;
 }
 
+std::string shortestDecimal(double value) {
+    std::array<char, 400> digits;  // a double has at most 309 before the point and 341 behind it
+    const auto [end, error] = std::to_chars(digits.data(), digits.data() + digits.size(), value,
+                                            std::chars_format::fixed);
+    return {digits.data(), end};
+}
+
 void appendInteger(std::string& text, std::int64_t value) {
     appendPadded(text, value, 1);
 }

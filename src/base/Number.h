@@ -57,6 +57,10 @@ inline std::int64_t roundToInteger(double value) {
     return whole + (fraction >= 0.5 ? 1 : 0) - (fraction <= -0.5 ? 1 : 0);
 }
 
+/// The shortest decimal without an exponent that reads back to `value`: "25", "23.976023976023978";
+/// "inf" or "nan" for what is not finite.
+std::string shortestDecimal(double value);
+
 /// Appends `value` in decimal.
 void appendInteger(std::string& text, std::int64_t value);
 

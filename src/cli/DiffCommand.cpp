@@ -9,12 +9,12 @@
 #include <vector>
 
 #include <clipvane/diff/CutDiff.h>
+#include "base/Number.h"
 #include "cli/Commands.h"
 #include "cli/DiffReading.h"
 #include "cli/Impossible.h"
 #include "cli/Output.h"
 #include "cli/OutputOptions.h"
-#include "cli/Rate.h"
 #include "cli/ReadingOptions.h"
 #include "cli/Reason.h"
 #include "cli/Table.h"
@@ -131,7 +131,7 @@ class DiffCommand : public Command {
         }
         const std::uint32_t track =
             tracks.empty() ? 0 : diff::findTrack(all, tracks.front()).value_or(0);
-        return diff::changeList(compared, track, decimalOf(compared.newList.counting.fps));
+        return diff::changeList(compared, track, shortestDecimal(compared.newList.counting.fps));
     }
 
     /// What changed, by how much and where is shown whole, whatever the terminal's width; what it

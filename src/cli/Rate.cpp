@@ -3,9 +3,6 @@
 
 #include "cli/Rate.h"
 
-#include <array>
-#include <charconv>
-
 #include "base/Characters.h"
 #include "base/Number.h"
 #include "import/Scan.h"
@@ -47,14 +44,6 @@ std::optional<double> parseRate(std::string_view text) {
         slash == std::string_view::npos ? parseDecimal(text) : parseFraction(text, slash);
     if (!rate || !(*rate > 0 && *rate <= largestRate)) return std::nullopt;
     return rate;
-}
-
-std::string decimalOf(double rate) {
-    // The digits of the largest double, or the places of the smallest, and a point.
-    std::array<char, 1100> digits;
-    const auto [end, error] =
-        std::to_chars(digits.data(), digits.data() + digits.size(), rate, std::chars_format::fixed);
-    return {digits.data(), end};
 }
 
 }  // namespace clipvane::cli

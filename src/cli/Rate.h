@@ -4,7 +4,6 @@
 #pragma once
 
 #include <optional>
-#include <string>
 #include <string_view>
 
 namespace clipvane::cli {
@@ -16,9 +15,5 @@ inline constexpr double largestRate = 1000;
 /// fraction of two whole numbers ("24000/1001"). Nothing for anything else, for zero and for what
 /// is above `largestRate`.
 std::optional<double> parseRate(std::string_view text);
-
-/// The shortest decimal without an exponent that reads back to `rate`, which must be finite:
-/// "25", "23.976023976023978".
-std::string decimalOf(double rate);
 
 }  // namespace clipvane::cli

@@ -9,9 +9,9 @@
 #include <vector>
 
 #include <clipvane/TimelineEvent.h>
+#include "base/Number.h"
 #include "base/UTF8.h"
 #include "cli/Encoding.h"
-#include "cli/Rate.h"
 #include "cli/Reason.h"
 #include "import/EDLReader.h"
 #include "import/EventLine.h"
@@ -139,13 +139,11 @@ Result<StampedEDL> stamped(std::string_view bytes, double fps, bool restamp) {
     const auto named = detectFPS(text);
     if (named == fps) return StampedEDL{std::string(bytes), false};
     if (named && !restamp) {
-        return tl::unexpected(because("names " + decimalOf(*named) +
-                                      " fps already; --restamp "
-                                      "makes it " +
-                                      decimalOf(fps)));
+        return tl::unexpected(because("names " + shortestDecimal(*named) +
+                                      " fps already; --restamp makes it " + shortestDecimal(fps)));
     }
     const auto before = readEDL(text);
-    for (std::string& candidate : candidates(bytes, decimalOf(fps), restamp)) {
+    for (std::string& candidate : candidates(bytes, shortestDecimal(fps), restamp)) {
         const std::string result = replaceInvalidUTF8(candidate);
         if (detectFPS(result) != fps) continue;
         const auto after = readEDL(result);

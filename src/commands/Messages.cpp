@@ -3,22 +3,17 @@
 
 #include "commands/Messages.h"
 
-#include <array>
-#include <charconv>
 #include <cmath>
 
 #include <clipvane/FrameRate.h>
+#include "base/Number.h"
 #include "base/UTF8.h"
 
 namespace clipvane {
 namespace {
 
-std::string shortestDecimal(double value) {
-    std::array<char, 400> digits;  // a double has at most 309 before the point and 324 behind it
-    const auto end =
-        std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed)
-            .ptr;
-    std::string text(digits.data(), end);
+std::string withPoint(double value) {
+    std::string text = shortestDecimal(value);
     if (std::isfinite(value) && text.find('.') == std::string::npos) text += ".0";
     return text;
 }
@@ -31,7 +26,7 @@ std::string withUnit(double fps) {
 
 std::string parsedLine(const TimelineParseResult& parsed, const std::filesystem::path& url) {
     return "Parsed " + std::to_string(parsed.events.size()) + " events from " +
-           replaceInvalidUTF8(url.native()) + " at " + shortestDecimal(parsed.fps) + " fps.";
+           replaceInvalidUTF8(url.native()) + " at " + withPoint(parsed.fps) + " fps.";
 }
 
 std::string openFailedLine(const Error& error) {
