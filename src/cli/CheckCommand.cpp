@@ -34,15 +34,12 @@ bool mayBeAnything(const WalkedTimeline& walked) {
 /// Says what is read, what is not, and what looks wrong.
 class CheckCommand : public Command {
   public:
-    std::string name() const override { return "check"; }
-    std::string summary() const override {
-        return "tell what is read of timelines, and what looks wrong";
-    }
-    std::string examples() const override {
-        return "  clipvane-cli check --fps 25 cut.edl\n"
-               "  clipvane-cli check --strict archive && echo nothing suspicious\n"
-               "  clipvane-cli check -f jsonl archive | jq 'select(.weight == \"suspicious\")'\n";
-    }
+    CheckCommand()
+        : Command(
+              "check", "tell what is read of timelines, and what looks wrong",
+              "  clipvane-cli check --fps 25 cut.edl\n"
+              "  clipvane-cli check --strict archive && echo nothing suspicious\n"
+              "  clipvane-cli check -f jsonl archive | jq 'select(.weight == \"suspicious\")'\n") {}
 
     void addOptions(Options& options) override {
         addFPSOption(options, reading);

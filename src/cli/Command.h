@@ -4,6 +4,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 #include "cli/Options.h"
 #include "cli/Session.h"
@@ -15,16 +16,15 @@ namespace clipvane::cli {
 /// Commands.h and Commands.cpp.
 class Command {
   public:
-    Command() = default;
+    Command(std::string name, std::string summary, std::string examples)
+        : name(std::move(name)), summary(std::move(summary)), examples(std::move(examples)) {}
     Command(const Command&) = delete;
     Command& operator=(const Command&) = delete;
     virtual ~Command() = default;
 
-    virtual std::string name() const = 0;
-    /// One line for the list of commands.
-    virtual std::string summary() const = 0;
-    /// Lines for the end of --help.
-    virtual std::string examples() const = 0;
+    const std::string name;
+    const std::string summary;   ///< one line for the list of commands
+    const std::string examples;  ///< lines for the end of --help
 
     /// Declares all but -q, -h and --version, which every command has.
     virtual void addOptions(Options& options) = 0;

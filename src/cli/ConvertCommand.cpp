@@ -24,14 +24,12 @@ std::string edlName(const Input& input) {
 /// Writes timelines as edited EDLs.
 class ConvertCommand : public Command {
   public:
-    std::string name() const override { return "convert"; }
-    std::string summary() const override { return "write timelines as EDLs of cuts"; }
-    std::string examples() const override {
-        return "  clipvane-cli convert -o cut.edl cut.fcpxml\n"
-               "  clipvane-cli convert --fps 25 --to 24 -d at24 *.edl\n"
-               "  clipvane-cli list -f jsonl cut.edl | jq -c 'select(.track == \"V\")' |\n"
-               "      clipvane-cli convert --from jsonl -o video.edl -\n";
-    }
+    ConvertCommand()
+        : Command("convert", "write timelines as EDLs of cuts",
+                  "  clipvane-cli convert -o cut.edl cut.fcpxml\n"
+                  "  clipvane-cli convert --fps 25 --to 24 -d at24 *.edl\n"
+                  "  clipvane-cli list -f jsonl cut.edl | jq -c 'select(.track == \"V\")' |\n"
+                  "      clipvane-cli convert --from jsonl -o video.edl -\n") {}
 
     void addOptions(Options& options) override {
         addFPSOption(options, reading);

@@ -40,14 +40,12 @@ diff::By byCalled(const std::string& name) {
 /// Tells what changed between two cuts.
 class DiffCommand : public Command {
   public:
-    std::string name() const override { return "diff"; }
-    std::string summary() const override { return "tell what changed between two cuts"; }
-    std::string examples() const override {
-        return "  clipvane-cli diff --fps 25 v3.edl v4.edl\n"
-               "  clipvane-cli diff --fps 25 --track V -f edl -o changes.edl v3.edl v4.edl\n"
-               "  clipvane-cli diff -f jsonl v3.fcpxml v4.fcpxml | jq -r "
-               "'select(.sums).sums.longer'\n";
-    }
+    DiffCommand()
+        : Command("diff", "tell what changed between two cuts",
+                  "  clipvane-cli diff --fps 25 v3.edl v4.edl\n"
+                  "  clipvane-cli diff --fps 25 --track V -f edl -o changes.edl v3.edl v4.edl\n"
+                  "  clipvane-cli diff -f jsonl v3.fcpxml v4.fcpxml | jq -r "
+                  "'select(.sums).sums.longer'\n") {}
 
     void addOptions(Options& options) override {
         addFPSOption(options, reading);

@@ -84,9 +84,9 @@ void explain(CLI::App& program) {
 }
 
 void explain(CLI::App& app, const Command& command) {
-    explain(app, "clipvane-cli " + command.name() + ": " + command.summary(),
-            "clipvane-cli " + command.name() + " [OPTIONS] " + namesOf(app));
-    app.footer("Examples:\n" + command.examples() + "\n" + statuses);
+    explain(app, "clipvane-cli " + command.name + ": " + command.summary,
+            "clipvane-cli " + command.name + " [OPTIONS] " + namesOf(app));
+    app.footer("Examples:\n" + command.examples + "\n" + statuses);
 }
 
 }  // namespace clipvane::cli

@@ -17,13 +17,11 @@ namespace {
 /// Prints the events of timelines.
 class ListCommand : public Command {
   public:
-    std::string name() const override { return "list"; }
-    std::string summary() const override { return "print the events of timelines"; }
-    std::string examples() const override {
-        return "  clipvane-cli list --fps 25 cut.edl\n"
-               "  clipvane-cli list --fps 25 -f csv -o report.csv cut.edl titles.edl\n"
-               "  clipvane-cli list -f jsonl cut.fcpxml | jq -r .clipName\n";
-    }
+    ListCommand()
+        : Command("list", "print the events of timelines",
+                  "  clipvane-cli list --fps 25 cut.edl\n"
+                  "  clipvane-cli list --fps 25 -f csv -o report.csv cut.edl titles.edl\n"
+                  "  clipvane-cli list -f jsonl cut.fcpxml | jq -r .clipName\n") {}
 
     void addOptions(Options& options) override {
         addFPSOption(options, reading);

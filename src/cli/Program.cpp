@@ -119,7 +119,7 @@ Status run(int argc, const char* const* argv, Session& session) {
     const auto commands = allCommands();
     Command* chosen = nullptr;
     for (const auto& command : commands) {
-        CLI::App* const sub = app.add_subcommand(command->name(), command->summary());
+        CLI::App* const sub = app.add_subcommand(command->name, command->summary);
         sub->group("Commands");
         addHelpAndQuiet(*sub, quiet);
         Options options(*sub);

@@ -23,13 +23,11 @@ std::string ownName(const Input& input) {
 /// Writes into EDLs the rate that they were written at.
 class StampCommand : public Command {
   public:
-    std::string name() const override { return "stamp"; }
-    std::string summary() const override { return "write into EDLs the rate that they count at"; }
-    std::string examples() const override {
-        return "  clipvane-cli stamp --fps 25 -o stamped.edl cut.edl\n"
-               "  clipvane-cli stamp --fps 23.976 --in-place *.edl\n"
-               "  clipvane-cli stamp --fps 30 --restamp -d at30 wrong.edl\n";
-    }
+    StampCommand()
+        : Command("stamp", "write into EDLs the rate that they count at",
+                  "  clipvane-cli stamp --fps 25 -o stamped.edl cut.edl\n"
+                  "  clipvane-cli stamp --fps 23.976 --in-place *.edl\n"
+                  "  clipvane-cli stamp --fps 30 --restamp -d at30 wrong.edl\n") {}
 
     void addOptions(Options& options) override {
         addFPSOption(options, reading, "the rate that the EDL was written at");
