@@ -43,7 +43,7 @@ class CheckCommand : public Command {
 
     void addOptions(Options& options) override {
         addFPSOption(options, reading);
-        addFromOption(options, reading, "edl|xml|jsonl");
+        addFromOption(options, reading, {"edl", "xml", "jsonl"});
         options.addChoice("-f,--format", format, {"text", "jsonl"}, "text if it is not said");
         options.addFlag("--strict", strict, "end with status 3 when anything is suspicious");
         addNames(options, reading, "TIMELINE|FOLDER");

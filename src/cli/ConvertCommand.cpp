@@ -34,7 +34,7 @@ class ConvertCommand : public Command {
     void addOptions(Options& options) override {
         addFPSOption(options, reading);
         addToOption(options, reading);
-        addFromOption(options, reading, "edl|xml|jsonl");
+        addFromOption(options, reading, {"edl", "xml", "jsonl"});
         addOutputOption(options, output, "write to FILE; \"-\" is standard output");
         addFolderOption(options, output,
                         "write into FOLDER, which is made, by the timelines' names");

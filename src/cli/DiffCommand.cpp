@@ -50,7 +50,7 @@ class DiffCommand : public Command {
     void addOptions(Options& options) override {
         addFPSOption(options, reading);
         addToOption(options, reading);
-        addFromOption(options, reading, "edl|xml|jsonl");
+        addFromOption(options, reading, {"edl", "xml", "jsonl"});
         options.addChoice("--by", by, {"reel", "name", "reel+name"}, "what tells sources apart");
         options.addValues("--track", "TRACK", tracks, "report this track only; can be repeated");
         options.addChoice("-f,--format", format, {"table", "csv", "jsonl", "edl"},

@@ -26,7 +26,7 @@ class ListCommand : public Command {
     void addOptions(Options& options) override {
         addFPSOption(options, reading);
         addToOption(options, reading);
-        addFromOption(options, reading, "edl|xml|jsonl");
+        addFromOption(options, reading, {"edl", "xml", "jsonl"});
         options.addChoice("-f,--format", format, {"table", "csv", "tsv", "jsonl"},
                           "a table if it is not said");
         addOutputOption(options, output, "write to FILE; \"-\" is standard output");

@@ -31,14 +31,10 @@ void addToOption(Options& options, ReadingOptions& reading) {
     addRateOption(options, "--to", reading.to, "then convert every timecode to R frames a second");
 }
 
-void addFromOption(Options& options, ReadingOptions& reading, const std::string& values) {
-    const auto take = [&reading, values](const std::string& text) -> std::optional<std::string> {
-        reading.from = formatCalled(text);
-        const bool isOffered = ("|" + values + "|").find("|" + text + "|") != std::string::npos;
-        if (reading.from && isOffered) return std::nullopt;
-        return "\"" + text + "\" is none of " + values;
-    };
-    options.addValue("--from", values, take, "format of \"-\", and of names that do not tell");
+void addFromOption(Options& options, ReadingOptions& reading,
+                   const std::vector<std::string>& choices) {
+    options.addChoice("--from", reading.from, choices,
+                      "format of \"-\", and of names that do not tell");
 }
 
 void addNames(Options& options, ReadingOptions& reading, const std::string& title) {
@@ -48,7 +44,7 @@ void addNames(Options& options, ReadingOptions& reading, const std::string& titl
 
 std::optional<TimelineFormat> formatOf(const Input& input, const ReadingOptions& options) {
     const auto byName = input.format();
-    return byName ? byName : options.from;
+    return byName ? byName : formatCalled(options.from);
 }
 
 std::optional<std::string> misuseOf(const std::vector<Input>& inputs,
@@ -64,10 +60,10 @@ std::optional<std::string> misuseOf(const std::vector<Input>& inputs,
         streams.push_back(*input.streamNumber());
     }
     const auto stream = std::ranges::find_if(inputs, isStream);
-    if (stream != inputs.end() && !options.from) {
+    if (stream != inputs.end() && options.from.empty()) {
         return stream->title() + " has no name that tells its format: say it with --from";
     }
-    if (options.from && std::ranges::none_of(inputs, needsFormat)) {
+    if (!options.from.empty() && std::ranges::none_of(inputs, needsFormat)) {
         return "--from is for \"-\" and for names that do not tell the format, and none is here";
     }
     return std::nullopt;

@@ -15,18 +15,18 @@ namespace clipvane::cli {
 
 /// The options about what is read, and how.
 struct ReadingOptions {
-    std::optional<double> fps;           ///< read at this rate, whatever the file names
-    std::optional<double> to;            ///< convert to this rate afterwards
-    std::optional<TimelineFormat> from;  ///< of streams, and of names that do not tell
-    std::vector<std::string> names;      ///< as the user wrote them
+    std::optional<double> fps;       ///< read at this rate, whatever the file names
+    std::optional<double> to;        ///< convert to this rate afterwards
+    std::string from;                ///< format of streams, and of names that do not tell
+    std::vector<std::string> names;  ///< as the user wrote them
 };
 
 void addFPSOption(
     Options& options, ReadingOptions& reading,
     const std::string& description = "read at R frames a second, whatever the file names");
 void addToOption(Options& options, ReadingOptions& reading);
-/// `values` is what --help shows, "edl|xml|jsonl".
-void addFromOption(Options& options, ReadingOptions& reading, const std::string& values);
+void addFromOption(Options& options, ReadingOptions& reading,
+                   const std::vector<std::string>& choices);
 /// The timelines themselves; `title` is what --help calls one.
 void addNames(Options& options, ReadingOptions& reading, const std::string& title);
 

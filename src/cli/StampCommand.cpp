@@ -32,7 +32,7 @@ class StampCommand : public Command {
     void addOptions(Options& options) override {
         addFPSOption(options, reading, "the rate that the EDL was written at");
         options.require("--fps");
-        addFromOption(options, reading, "edl");
+        addFromOption(options, reading, {"edl"});
         addOutputOption(options, output, "write to FILE; \"-\" is standard output");
         addFolderOption(options, output, "write into FOLDER, which is made, by the EDLs' names");
         addInPlaceOption(options, output);
