@@ -3,6 +3,7 @@
 
 #include "cli/Check.h"
 
+#include <algorithm>
 #include <iterator>
 #include <utility>
 
@@ -17,8 +18,7 @@ namespace clipvane::cli {
 namespace {
 
 void append(Findings& all, Findings more) {
-    all.insert(all.end(), std::make_move_iterator(more.begin()),
-               std::make_move_iterator(more.end()));
+    std::ranges::move(more, std::back_inserter(all));
 }
 
 /// What is to be said of the list as a whole.

@@ -4,7 +4,6 @@
 #include "cli/EventFindings.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -55,13 +54,7 @@ Finding beyondRate(const FrameFields& fields, double fps) {
             text + "; " + fittingRates(fields.largest)};
 }
 
-template <class Event>
-std::array<std::string_view, 4> timecodesOf(const Event& event) {
-    return {event.sourceIn, event.sourceOut, event.recordIn, event.recordOut};
-}
-
-template <class Event>
-void lookAtRanges(const Event& event, double fps, std::size_t row, Findings& found) {
+void lookAtRanges(const EventView& event, double fps, std::size_t row, Findings& found) {
     const FrameCounts counts = frameCounts(event, fps);
     const auto look = [&](const char* range, FrameCounts::Count duration, std::string_view in,
                           std::string_view out) {
@@ -81,9 +74,10 @@ Findings eventFindings(const TimelineDocument& document) {
     Findings found;
     FrameFields frameFields;
     std::size_t row = 0;
-    for (const auto& event : document.events) {
+    for (const EventView& event : document.events) {
         ++row;
-        for (const std::string_view timecode : timecodesOf(event)) {
+        for (const std::string_view timecode :
+             {event.sourceIn, event.sourceOut, event.recordIn, event.recordOut}) {
             const auto fields = readTwoDigitFields(timecode);
             if (!fields) continue;
             if ((*fields)[1] >= 60 || (*fields)[2] >= 60) {

@@ -18,11 +18,6 @@ std::string withoutSlashesBehind(std::string name) {
     return name;
 }
 
-bool isFolder(const std::filesystem::path& path) {
-    std::error_code unknown;  // what cannot be looked at will say so when it is read
-    return std::filesystem::is_directory(path, unknown);
-}
-
 /// The file to read: of a folder that is one timeline, the document in it.
 std::filesystem::path documentOf(const std::filesystem::path& place) {
     return isBundleName(place) && isFolder(place) ? place / "Info.fcpxml" : place;
@@ -57,6 +52,11 @@ Result<FileBytes> Input::read() const {
     auto bytes = readFile(documentOf(place));
     if (!bytes) return tl::unexpected(reworded(bytes.error(), "read"));
     return std::move(*bytes);
+}
+
+bool isFolder(const std::filesystem::path& path) {
+    std::error_code unknown;
+    return std::filesystem::is_directory(path, unknown);
 }
 
 std::vector<Input> inputsNamed(const std::vector<std::string>& names) {

@@ -49,6 +49,9 @@ class Input {
     std::optional<int> stream;
 };
 
+/// What cannot be looked at is no folder; it will say why when it is read.
+bool isFolder(const std::filesystem::path& path);
+
 std::vector<Input> inputsNamed(const std::vector<std::string>& names);
 
 }  // namespace clipvane::cli

@@ -40,13 +40,11 @@ std::string_view nameFault(std::string_view name) {
 }
 
 /// The likeliest reason for which an event is lost.
-template <class Event>
-std::string_view faultOf(const Event& event) {
+std::string_view faultOf(const EventView& event) {
     if (holds(event.reelID, isWhiteSpace)) return "reels hold blanks";
     if (holds(event.track, isWhiteSpace)) return "tracks hold blanks";
     for (const std::string_view timecode :
-         {std::string_view(event.sourceIn), std::string_view(event.sourceOut),
-          std::string_view(event.recordIn), std::string_view(event.recordOut)}) {
+         {event.sourceIn, event.sourceOut, event.recordIn, event.recordOut}) {
         if (const auto fault = timecodeFault(timecode); !fault.empty()) return fault;
     }
     if (const auto fault = nameFault(event.clipName); !fault.empty()) return fault;
@@ -55,8 +53,7 @@ std::string_view faultOf(const Event& event) {
     return "some get the name of the lost event behind them";
 }
 
-template <class Event, class OtherEvent>
-bool isSame(const Event& written, const OtherEvent& read) {
+bool isSame(const EventView& written, const EventView& read) {
     const auto isKept = [](std::string_view text, std::string_view again, std::string_view empty) {
         return again == (text.empty() ? empty : text);
     };

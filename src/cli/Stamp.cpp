@@ -121,8 +121,7 @@ bool isSame(TimelineEvent a, const TimelineEvent& b) {
 }
 
 /// Nothing when the events are others; otherwise whether there is one more before them.
-template <class Events>
-std::optional<bool> comesFirst(const Events& before, const Events& after) {
+std::optional<bool> comesFirst(const EventList& before, const EventList& after) {
     if (after.size() != before.size() && after.size() != before.size() + 1) return std::nullopt;
     const std::size_t added = after.size() - before.size();
     for (std::size_t row = 0; row < before.size(); ++row) {

@@ -28,10 +28,10 @@ void setRate(TimelineDocument& document, std::optional<double> fps, std::optiona
     document.fpsSource = fps ? fpsSourceManual : named ? fpsSourceFile : fpsSourceDefault;
 }
 
-ReadTimeline edlTimeline(std::string_view text, std::optional<double> fps) {
+ReadTimeline edlTimeline(std::string text, std::optional<double> fps) {
     ReadTimeline timeline{std::make_unique<TimelineDocument>(), detectFPS(text)};
     setRate(*timeline.document, fps, timeline.namedRate);
-    timeline.document->events = readEDL(std::string(text));
+    timeline.document->events = readEDL(std::move(text));
     return timeline;
 }
 
@@ -56,7 +56,6 @@ Result<ReadTimeline> read(std::string_view bytes, TimelineFormat format, std::op
                           XMLWatcher* watcher) {
     switch (format) {
         case TimelineFormat::edl:
-            if (validUTF8Prefix(bytes) == bytes.size()) return edlTimeline(bytes, fps);
             return edlTimeline(replaceInvalidUTF8(bytes), fps);
         case TimelineFormat::xml:
             return xmlTimeline(bytes, fps, watcher);

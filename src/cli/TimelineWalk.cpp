@@ -16,11 +16,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-bool isFolder(const fs::path& path) {
-    std::error_code unknown;  // what cannot be looked at will say so when it is read
-    return fs::is_directory(path, unknown);
-}
-
 class Walk {
   public:
     Walk(const std::optional<FileIdentity>& output, Session& session) : session(session) {

@@ -19,22 +19,11 @@ struct Watched {
     bool needsAttributes = false;  ///< without them it is a mere container, as in XMEML
 };
 
-constexpr std::array<Watched, 16> watched{{{"ref-clip"},
-                                           {"video", true},
-                                           {"audio", true},
-                                           {"transitionitem"},
-                                           {"transition"},
-                                           {"generatoritem"},
-                                           {"marker"},
-                                           {"chapter-marker"},
-                                           {"caption"},
-                                           {"audition"},
-                                           {"keyword"},
-                                           {"filter"},
-                                           {"filter-video"},
-                                           {"filter-audio"},
-                                           {"timemap"},
-                                           {"conform-rate"}}};
+constexpr Watched watched[]{
+    {"ref-clip"},     {"video", true},   {"audio", true}, {"transitionitem"},
+    {"transition"},   {"generatoritem"}, {"marker"},      {"chapter-marker"},
+    {"caption"},      {"audition"},      {"keyword"},     {"filter"},
+    {"filter-video"}, {"filter-audio"},  {"timemap"},     {"conform-rate"}};
 
 bool isCalled(std::string_view element, std::string_view name) {
     return std::ranges::equal(element, name, {}, asciiLower);
@@ -43,11 +32,11 @@ bool isCalled(std::string_view element, std::string_view name) {
 }  // namespace
 
 void XMLFindings::element(std::string_view name, bool hasAttributes, std::size_t line) {
-    static_assert(watched.size() == watchedCount);
-    for (std::size_t i = 0; i < watched.size(); ++i) {
+    for (std::size_t i = 0; i < std::size(watched); ++i) {
         if (!isCalled(name, watched[i].name)) continue;
         if (watched[i].needsAttributes && !hasAttributes) return;
-        if (tallies[i].count++ == 0) tallies[i].firstLine = line;
+        Tally& tally = tallies[i];
+        if (tally.count++ == 0) tally.firstLine = line;
         return;
     }
 }
@@ -59,13 +48,10 @@ void XMLFindings::brokeOff(std::size_t line, std::size_t column, std::string_vie
 }
 
 Findings XMLFindings::take() {
-    for (std::size_t i = 0; i < watched.size(); ++i) {
-        const std::size_t count = tallies[i].count;
-        if (count == 0) continue;
-        found.push_back({"unread-element", Finding::Weight::note, tallies[i].firstLine,
-                         std::nullopt,
-                         std::to_string(count) + " <" + std::string(watched[i].name) +
-                             (count == 1 ? "> element is" : "> elements are") + " no event"});
+    for (const auto& [i, tally] : tallies) {
+        found.push_back({"unread-element", Finding::Weight::note, tally.firstLine, std::nullopt,
+                         std::to_string(tally.count) + " <" + std::string(watched[i].name) +
+                             (tally.count == 1 ? "> element is" : "> elements are") + " no event"});
     }
     return std::move(found);
 }

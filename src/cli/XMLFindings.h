@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include <array>
 #include <cstddef>
+#include <map>
 
 #include "cli/Finding.h"
 #include "import/XMLReader.h"
@@ -27,9 +27,7 @@ class XMLFindings : public XMLWatcher {
         std::size_t firstLine = 0;
     };
 
-    static constexpr std::size_t watchedCount = 16;
-
-    std::array<Tally, watchedCount> tallies;
+    std::map<std::size_t, Tally> tallies;  ///< by the element's place among those that are watched
     Findings found;
 };
 
