@@ -20,7 +20,6 @@
 #include "ui/Colours.h"
 #include "ui/ControlPainter.h"
 #include "ui/Fonts.h"
-#include "ui/Palette.h"
 #include "ui/StandardIcons.h"
 
 namespace clipvane {
@@ -78,10 +77,6 @@ void dress(QMessageBox& box) {
 
 ClipvaneStyle::ClipvaneStyle() : QProxyStyle(QStyleFactory::create("Fusion")) {
     setObjectName("Clipvane");
-}
-
-QPalette ClipvaneStyle::standardPalette() const {
-    return darkPalette();
 }
 
 void ClipvaneStyle::polish(QWidget* widget) {

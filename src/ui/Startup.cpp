@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QSettings>
+#include <QStyle>
 #include <QToolTip>
 #include <csignal>
 #include <cstdio>
@@ -14,7 +15,6 @@
 #include "ui/ClipvaneStyle.h"
 #include "ui/FocusRing.h"
 #include "ui/Fonts.h"
-#include "ui/Palette.h"
 
 namespace clipvane {
 namespace {
@@ -48,10 +48,11 @@ void dressApplication(QApplication& application) {
     application.setWindowIcon(applicationIcon());
     // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): it belongs to the application now.
     application.setStyle(new ClipvaneStyle);
-    application.setPalette(darkPalette());
+    const QPalette palette = application.style()->standardPalette();
+    application.setPalette(palette);
     application.setFont(systemFont(13));
     QToolTip::setFont(systemFont(13));
-    QToolTip::setPalette(darkPalette());
+    QToolTip::setPalette(palette);
     installAccessibility();
     new FocusRing(application);
 }

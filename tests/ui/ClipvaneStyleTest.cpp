@@ -16,7 +16,6 @@
 #include <QTreeWidget>
 
 #include "ui/Colours.h"
-#include "ui/Palette.h"
 
 namespace clipvane {
 namespace {

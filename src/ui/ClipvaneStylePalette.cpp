@@ -1,13 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
-#include "ui/Palette.h"
-
+#include "ui/ClipvaneStyle.h"
 #include "ui/Colours.h"
 
 namespace clipvane {
 
-QPalette darkPalette() {
+QPalette ClipvaneStyle::standardPalette() const {
     QPalette palette(colours::text, colours::control, colours::controlHover,
                      colours::controlPressed, colours::controlBottom, colours::text, colours::white,
                      colours::table, colours::window);
