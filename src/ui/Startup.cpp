@@ -4,6 +4,7 @@
 #include "ui/Startup.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QSettings>
 #include <QStyle>
 #include <QToolTip>
@@ -11,7 +12,6 @@
 #include <cstdio>
 
 #include "ui/Accessibility.h"
-#include "ui/ApplicationIcon.h"
 #include "ui/ClipvaneStyle.h"
 #include "ui/FocusRing.h"
 #include "ui/Fonts.h"
@@ -23,6 +23,16 @@ namespace {
 void reportFatal(QtMsgType type, const QMessageLogContext&, const QString& message) {
     if (type != QtFatalMsg) return;
     std::fprintf(stderr, "clipvane: %s\n", message.toLocal8Bit().constData());
+}
+
+/// A weather vane's arrow over the clips of a timeline: the pictures of packaging/icons, built into
+/// the program.
+QIcon applicationIcon() {
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
+        icon.addFile(QString(":/icons/clipvane-%1.png").arg(size), QSize(size, size));
+    }
+    return icon;
 }
 
 }  // namespace

@@ -1,12 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Clipvane developers
 // SPDX-License-Identifier: MIT
 
-#include "ui/ApplicationIcon.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <QGuiApplication>
+#include <QIcon>
 #include <QImage>
 #include <QPixmap>
 
@@ -26,7 +25,7 @@ class ApplicationIconSize : public testing::TestWithParam<IconRow> {};
 
 TEST_P(ApplicationIconSize, HasADrawingOfItsOwn) {
     const auto& row = GetParam();
-    const QIcon icon = applicationIcon();
+    const QIcon icon = QGuiApplication::windowIcon();
     EXPECT_THAT(icon.availableSizes(), testing::Contains(QSize(row.size, row.size)));
     const QImage image = icon.pixmap(row.size, row.size).toImage();
     ASSERT_EQ(image.size(), QSize(row.size, row.size));
