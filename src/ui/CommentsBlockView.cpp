@@ -4,8 +4,8 @@
 #include "ui/CommentsBlockView.h"
 
 #include "ui/Colours.h"
-#include "ui/FlippedRect.h"
 #include "ui/Fonts.h"
+#include "ui/Geometry.h"
 #include "ui/TextLabel.h"
 
 namespace clipvane {
@@ -15,14 +15,14 @@ CommentsBlockView::CommentsBlockView(CommentsView* textView, QWidget* parent)
       titleLabel(
           new TextLabel("Comments", systemFont(15, QFont::DemiBold), colours::secondaryText, this)),
       textView(textView) {
-    resize(CommentsBlockView::sizeHint());
+    resize(commentsBlockSize);
     textView->setParent(this);
     textView->show();
     titleLabel->setBuddy(textView);
 }
 
 QSize CommentsBlockView::sizeHint() const {
-    return {static_cast<int>(detailWidth), static_cast<int>(commentsBlockHeight)};
+    return commentsBlockSize;
 }
 
 void CommentsBlockView::resizeEvent(QResizeEvent* event) {

@@ -4,8 +4,8 @@
 #include "ui/DetailRowView.h"
 
 #include "ui/Colours.h"
-#include "ui/FlippedRect.h"
 #include "ui/Fonts.h"
+#include "ui/Geometry.h"
 #include "ui/TextLabel.h"
 
 namespace clipvane {
@@ -21,7 +21,7 @@ DetailRowView::DetailRowView(const QString& label, const QString& value, const Q
     : QWidget(parent),
       keyLabel(new TextLabel(label, systemFont(14, QFont::DemiBold), colours::secondaryText, this)),
       valueLabel(new TextLabel({}, monospacedFont(17), valueColor, this)) {
-    resize(static_cast<int>(detailWidth), static_cast<int>(detailRowHeight));
+    resize(detailRowSize);
     valueLabel->setElideMode(Qt::ElideMiddle);
     valueLabel->setLeastSpacing(leastValueSpacing);
     keyLabel->setBuddy(valueLabel);
@@ -34,7 +34,7 @@ void DetailRowView::setValue(const QString& value) {
 }
 
 QSize DetailRowView::sizeHint() const {
-    return {static_cast<int>(detailWidth), static_cast<int>(detailRowHeight)};
+    return detailRowSize;
 }
 
 void DetailRowView::resizeEvent(QResizeEvent* event) {

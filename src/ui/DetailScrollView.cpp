@@ -8,7 +8,6 @@
 #include <QScrollBar>
 #include <QShortcut>
 #include <QTimer>
-#include <cmath>
 
 #include "ui/CommentsBlockView.h"
 #include "ui/Geometry.h"
@@ -56,8 +55,7 @@ void DetailScrollView::scrollOnKey(Qt::Key key, QAbstractSlider::SliderAction ac
 }
 
 void DetailScrollView::resizeEvent(QResizeEvent* event) {
-    const double width = detailStackWidth(viewport()->width());
-    widget()->resize(static_cast<int>(std::round(width)), static_cast<int>(detailStackHeight));
+    widget()->resize(qRound(detailStackWidth(viewport()->width())), detailStackHeight);
     QScrollArea::resizeEvent(event);
     showCaret();
 }

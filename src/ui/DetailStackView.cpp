@@ -8,8 +8,8 @@
 #include "ui/Colours.h"
 #include "ui/CommentsBlockView.h"
 #include "ui/DetailRowView.h"
-#include "ui/FlippedRect.h"
 #include "ui/Fonts.h"
+#include "ui/Geometry.h"
 #include "ui/Text.h"
 #include "ui/TextLabel.h"
 

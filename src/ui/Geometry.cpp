@@ -25,8 +25,16 @@ constexpr double stackTop = 8;
 constexpr double stackBottom = 12;
 constexpr double stackRight = 12;
 constexpr double stackSpacing = 14;
+constexpr double detailWidth = detailRowSize.width();
+constexpr double detailRowHeight = detailRowSize.height();
 
 }  // namespace
+
+QRect flipped(const Rect& rect, double outerHeight) {
+    const int left = qRound(rect.x);
+    const int top = qRound(outerHeight - (rect.y + rect.height));
+    return {left, top, qRound(rect.x + rect.width) - left, qRound(outerHeight - rect.y) - top};
+}
 
 MainLayout mainLayout(double width, double height) {
     const double inner = std::max(width - 2 * margin, 0.0);

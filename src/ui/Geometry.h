@@ -3,27 +3,30 @@
 
 #pragma once
 
+#include <QRect>
+#include <QSize>
 #include <cstddef>
 #include <vector>
 
 namespace clipvane {
 
 // Where things lie: pure functions of sizes. The unit is a logical pixel, the origin the bottom
-// left corner of the surrounding area, and y grows upward; `flipped` gives them to the toolkit.
+// left corner of the surrounding area, and y grows upward.
 
 struct Rect {
     double x = 0;
     double y = 0;
     double width = 0;
     double height = 0;
-
-    bool operator==(const Rect&) const = default;
 };
 
-inline constexpr double windowWidth = 1440;  ///< of the main window's content at first
-inline constexpr double windowHeight = 860;
-inline constexpr double windowMinimumWidth = 1180;  ///< with the window's frame
-inline constexpr double windowMinimumHeight = 720;
+/// `rect` as the toolkit wants it: in whole pixels, from the top left corner of an area
+/// `outerHeight` high. The edges are rounded, not the sizes, so that a margin is the same wherever
+/// it lies.
+QRect flipped(const Rect& rect, double outerHeight);
+
+inline constexpr QSize windowSize{1440, 860};         ///< of the main window's content at first
+inline constexpr QSize windowMinimumSize{1180, 720};  ///< with the window's frame
 
 /// The four regions of the main window.
 struct MainLayout {
@@ -49,12 +52,11 @@ struct DetailStackLayout {
     std::vector<Rect> rows;
     Rect comments;
 };
-inline constexpr double detailStackHeight = 640;
+inline constexpr int detailStackHeight = 640;
 double detailStackWidth(double contentWidth);
 DetailStackLayout detailStackLayout(double width, double titleHeight, std::size_t rowCount);
 
-inline constexpr double detailWidth = 360;  ///< of rows and comments block, at least
-inline constexpr double detailRowHeight = 26;
+inline constexpr QSize detailRowSize{360, 26};  ///< that a row prefers; it is never narrower
 
 struct DetailRowLayout {
     Rect key;
@@ -62,7 +64,7 @@ struct DetailRowLayout {
 };
 DetailRowLayout detailRowLayout(double width);
 
-inline constexpr double commentsBlockHeight = 302;  ///< that the block prefers
+inline constexpr QSize commentsBlockSize{360, 302};  ///< that the block prefers
 
 struct CommentsBlockLayout {
     Rect title;

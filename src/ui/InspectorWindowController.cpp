@@ -18,6 +18,7 @@
 #include "ui/Fonts.h"
 #include "ui/FrameMinimumSize.h"
 #include "ui/FrameRatePopup.h"
+#include "ui/Geometry.h"
 #include "ui/HelpWindow.h"
 #include "ui/MainLayoutView.h"
 #include "ui/PanelView.h"
@@ -27,12 +28,6 @@
 #include "ui/ToolbarView.h"
 
 namespace clipvane {
-namespace {
-
-constexpr QSize minimumFrameSize{static_cast<int>(windowMinimumWidth),
-                                 static_cast<int>(windowMinimumHeight)};
-
-}  // namespace
 
 InspectorWindowController::InspectorWindowController()
     : rootView(new MainLayoutView),
@@ -45,7 +40,7 @@ InspectorWindowController::InspectorWindowController()
       statusLabel(new StatusLabel("Open an EDL, XML, FCPXML, or XMEML timeline file.")) {
     mainWindow.setWindowTitle("Clipvane");
     mainWindow.setContextMenuPolicy(Qt::NoContextMenu);
-    new FrameMinimumSize(&mainWindow, minimumFrameSize);
+    new FrameMinimumSize(&mainWindow, windowMinimumSize);
     AppLog::write("Setting up main UI.");
     buildWindow();
 }
@@ -63,7 +58,7 @@ void InspectorWindowController::buildWindow() {
          {rootView->toolbar, rootView->leftPanel, rootView->rightPanel, rootView->status}) {
         region->setParent(rootView);
     }
-    mainWindow.resize(contentSize);
+    mainWindow.resize(windowSize);
     rootView->layout();
     QWidget::setTabOrder(rootView->toolbar, tableView);
     QWidget::setTabOrder(tableView, commentsView);

@@ -9,7 +9,6 @@
 #include <clipvane/DocumentCommands.h>
 #include "ui/EventTableModel.h"
 #include "ui/FilePanels.h"
-#include "ui/Geometry.h"
 
 namespace clipvane {
 
@@ -38,9 +37,6 @@ class InspectorWindowController : public DocumentCommands {
     QWidget* window() { return &mainWindow; }
 
   private:
-    static constexpr QSize contentSize{static_cast<int>(windowWidth),
-                                       static_cast<int>(windowHeight)};
-
     void buildWindow();
     QWidget* makeToolbar();
     PanelView* makeEventPanel();

@@ -47,7 +47,7 @@ void InspectorWindowController::showWindow() {
 /// its least size.
 void InspectorWindowController::fitScreen() {
     const QSize room = mainWindow.screen()->availableGeometry().size();
-    const QSize fitting = contentSize.boundedTo(room.shrunkBy(frameOf(mainWindow)));
+    const QSize fitting = windowSize.boundedTo(room.shrunkBy(frameOf(mainWindow)));
     mainWindow.resize(fitting.expandedTo(mainWindow.minimumSize()));
 }
 

@@ -3,7 +3,7 @@
 
 #include "ui/MainLayoutView.h"
 
-#include "ui/FlippedRect.h"
+#include "ui/Geometry.h"
 
 namespace clipvane {
 

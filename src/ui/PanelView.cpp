@@ -6,8 +6,8 @@
 #include <QPainter>
 
 #include "ui/Colours.h"
-#include "ui/FlippedRect.h"
 #include "ui/Fonts.h"
+#include "ui/Geometry.h"
 #include "ui/TextLabel.h"
 
 namespace clipvane {

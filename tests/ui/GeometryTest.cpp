@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 #include "support/RowName.h"
-#include "ui/FlippedRect.h"
 
 namespace clipvane {
 namespace {
