@@ -101,7 +101,7 @@ bool CommentsView::isEdited() const {
 }
 
 std::string CommentsView::comments() const {
-    return toUTF8(withLineFeeds(document()->toRawText()));
+    return withLineFeeds(document()->toRawText()).toStdString();
 }
 
 void CommentsView::keyPressEvent(QKeyEvent* event) {

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
+#include <QDeadlineTimer>
 #include <QScreen>
 #include <QTimer>
 #include <QWindow>
@@ -22,11 +22,10 @@ QMargins frameOf(const QWidget& window) {
 
 /// Handles events of the window system alone: it is too early for clicks and keys.
 void waitUntilActive(const QWidget& window) {
-    QElapsedTimer waited;
-    waited.start();
+    const QDeadlineTimer deadline(activationPatience);
     QTimer wake;  // ends a wait in which nothing happens
     wake.start(20);
-    while (!window.isActiveWindow() && waited.elapsed() < activationPatience) {
+    while (!window.isActiveWindow() && !deadline.hasExpired()) {
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
                                         QEventLoop::WaitForMoreEvents);
     }

@@ -98,7 +98,7 @@ std::optional<std::string> InspectorWindowController::editedComments() const {
 
 std::optional<std::string> InspectorWindowController::selectedFPSTitle() const {
     if (fpsPopup->currentIndex() < 0) return std::nullopt;
-    return toUTF8(fpsPopup->currentText());
+    return fpsPopup->currentText().toStdString();
 }
 
 void InspectorWindowController::syncFPSPopup() {

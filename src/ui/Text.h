@@ -4,19 +4,13 @@
 #pragma once
 
 #include <QString>
-#include <string>
 #include <string_view>
 
 namespace clipvane {
 
 /// UTF-8 as the toolkit's text.
 inline QString toQt(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-inline std::string toUTF8(const QString& text) {
-    const QByteArray bytes = text.toUtf8();
-    return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
+    return QString::fromUtf8(text);
 }
 
 /// `text` for one line on the screen: line breaks and other controls become blanks, and of a very
