@@ -107,7 +107,8 @@ void ClipvaneStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
         case PE_PanelScrollAreaCorner:
             return;  // the controls show the focus themselves
         case PE_FrameLineEdit:
-            return;
+        case PE_FrameMenu:
+            return;  // what they frame has its edge already
         case PE_Frame:
             if (holdsPopupList(widget)) return;  // a menu, which has its edge already
             [[fallthrough]];
@@ -117,8 +118,6 @@ void ClipvaneStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
         case PE_PanelTipLabel:
         case PE_PanelMenu:
             return paintBox(*painter, option->rect, 0, colours::menu, colours::menuEdge);
-        case PE_FrameMenu:
-            return;
         default:
             QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
@@ -203,7 +202,6 @@ int ClipvaneStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
         case PM_ButtonShiftVertical:
             return 0;
         case PM_DefaultFrameWidth:
-            return 3;
         case PM_FocusFrameHMargin:
         case PM_FocusFrameVMargin:
             return 3;
@@ -236,14 +234,12 @@ int ClipvaneStyle::styleHint(StyleHint hint, const QStyleOption* option, const Q
     switch (hint) {
         case SH_ComboBox_Popup:
             return 1;
-        case SH_ComboBox_AllowWheelScrolling:
-            return 0;
         case SH_ToolTipLabel_Opacity:
             return 255;
+        case SH_ComboBox_AllowWheelScrolling:
         case SH_EtchDisabledText:
         case SH_ScrollView_FrameOnlyAroundContents:
         case SH_DialogButtonBox_ButtonsHaveIcons:
-            return 0;
         case SH_ScrollBar_LeftClickAbsolutePosition:
             return 0;
         default:

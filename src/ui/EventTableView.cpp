@@ -241,38 +241,31 @@ QModelIndex EventTableView::moveCursor(CursorAction action, Qt::KeyboardModifier
         return model()->index(action == MoveEnd || action == MoveUp ? last : 0, 0);
     }
     const int page = std::max(viewport()->height() / rowHeight, 1);
-    int row = current.row();
-    int column = current.column();
+    const int row = current.row();
+    const int column = current.column();
+    const auto at = [&](int wanted) { return model()->index(std::clamp(wanted, 0, last), column); };
     switch (action) {
         case MoveUp:
-            row -= 1;
-            break;
+            return at(row - 1);
         case MoveDown:
-            row += 1;
-            break;
+            return at(row + 1);
         case MovePageUp:
-            row -= page;
-            break;
+            return at(row - page);
         case MovePageDown:
-            row += page;
-            break;
+            return at(row + page);
         case MoveHome:
-            row = 0;
-            break;
+            return at(0);
         case MoveEnd:
-            row = last;
-            break;
+            return at(last);
         case MoveLeft:
-            column = stepColumn(column, -1);
-            break;
+            return model()->index(row, stepColumn(column, -1));
         case MoveRight:
-            column = stepColumn(column, 1);
-            break;
+            return model()->index(row, stepColumn(column, 1));
         case MoveNext:
         case MovePrevious:
             break;
     }
-    return model()->index(std::clamp(row, 0, last), column);
+    return current;
 }
 
 void EventTableView::setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags command) {

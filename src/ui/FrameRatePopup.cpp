@@ -6,6 +6,8 @@
 #include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QWheelEvent>
+#include <algorithm>
+#include <array>
 
 #include <clipvane/FrameRate.h>
 #include "ui/Fonts.h"
@@ -18,21 +20,8 @@ QString title(double fps) {
     return toQt(formatFPS(fps) + " fps");
 }
 
-bool opensList(int key) {
-    switch (key) {
-        case Qt::Key_Up:
-        case Qt::Key_Down:
-        case Qt::Key_Left:
-        case Qt::Key_Right:
-        case Qt::Key_Space:
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-        case Qt::Key_F4:
-            return true;
-        default:
-            return false;
-    }
-}
+constexpr std::array keysThatOpen{Qt::Key_Up,    Qt::Key_Down,   Qt::Key_Left,  Qt::Key_Right,
+                                  Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter, Qt::Key_F4};
 
 bool isKeyEvent(const QEvent& event) {
     return event.type() == QEvent::ShortcutOverride || event.type() == QEvent::KeyPress ||
@@ -76,7 +65,7 @@ void FrameRatePopup::showRate(double fps) {
 }
 
 void FrameRatePopup::keyPressEvent(QKeyEvent* event) {
-    if (opensList(event->key())) {
+    if (std::ranges::count(keysThatOpen, event->key()) > 0) {
         showPopup();
     } else {
         QWidget::keyPressEvent(event);

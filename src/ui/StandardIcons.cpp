@@ -106,51 +106,38 @@ void warning(QPainter& painter) {
 
 using Drawing = void (*)(QPainter&);
 
-Drawing drawingOf(QStyle::StandardPixmap which) {
-    switch (which) {
-        case QStyle::SP_ArrowBack:
-            return back;
-        case QStyle::SP_ArrowForward:
-            return forward;
-        case QStyle::SP_FileDialogToParent:
-            return up;
-        case QStyle::SP_FileDialogNewFolder:
-            return newFolder;
-        case QStyle::SP_FileDialogListView:
-            return listView;
-        case QStyle::SP_FileDialogDetailedView:
-            return detailView;
-        case QStyle::SP_DirIcon:
-        case QStyle::SP_DirOpenIcon:
-        case QStyle::SP_DirClosedIcon:
-        case QStyle::SP_DirLinkIcon:
-            return filledFolder;
-        case QStyle::SP_FileIcon:
-        case QStyle::SP_FileLinkIcon:
-            return file;
-        case QStyle::SP_DirHomeIcon:
-            return home;
-        case QStyle::SP_ComputerIcon:
-        case QStyle::SP_DesktopIcon:
-            return computer;
-        case QStyle::SP_DriveHDIcon:
-        case QStyle::SP_DriveNetIcon:
-        case QStyle::SP_DriveCDIcon:
-        case QStyle::SP_DriveDVDIcon:
-        case QStyle::SP_DriveFDIcon:
-            return drive;
-        case QStyle::SP_TrashIcon:
-            return trash;
-        case QStyle::SP_MessageBoxInformation:
-        case QStyle::SP_MessageBoxQuestion:
-            return notice;
-        case QStyle::SP_MessageBoxWarning:
-        case QStyle::SP_MessageBoxCritical:
-            return warning;
-        default:
-            return nullptr;
-    }
-}
+struct Drawn {
+    QStyle::StandardPixmap which;
+    Drawing drawing;
+};
+
+constexpr Drawn drawings[]{
+    {QStyle::SP_ArrowBack, back},
+    {QStyle::SP_ArrowForward, forward},
+    {QStyle::SP_FileDialogToParent, up},
+    {QStyle::SP_FileDialogNewFolder, newFolder},
+    {QStyle::SP_FileDialogListView, listView},
+    {QStyle::SP_FileDialogDetailedView, detailView},
+    {QStyle::SP_DirIcon, filledFolder},
+    {QStyle::SP_DirOpenIcon, filledFolder},
+    {QStyle::SP_DirClosedIcon, filledFolder},
+    {QStyle::SP_DirLinkIcon, filledFolder},
+    {QStyle::SP_FileIcon, file},
+    {QStyle::SP_FileLinkIcon, file},
+    {QStyle::SP_DirHomeIcon, home},
+    {QStyle::SP_ComputerIcon, computer},
+    {QStyle::SP_DesktopIcon, computer},
+    {QStyle::SP_DriveHDIcon, drive},
+    {QStyle::SP_DriveNetIcon, drive},
+    {QStyle::SP_DriveCDIcon, drive},
+    {QStyle::SP_DriveDVDIcon, drive},
+    {QStyle::SP_DriveFDIcon, drive},
+    {QStyle::SP_TrashIcon, trash},
+    {QStyle::SP_MessageBoxInformation, notice},
+    {QStyle::SP_MessageBoxQuestion, notice},
+    {QStyle::SP_MessageBoxWarning, warning},
+    {QStyle::SP_MessageBoxCritical, warning},
+};
 
 /// Draws again at every size, so that it is sharp on every screen.
 class DrawnIcon : public QIconEngine {
@@ -185,8 +172,8 @@ class DrawnIcon : public QIconEngine {
 }  // namespace
 
 QIcon drawnIcon(QStyle::StandardPixmap which) {
-    const Drawing drawing = drawingOf(which);
-    return drawing != nullptr ? QIcon(new DrawnIcon(drawing)) : QIcon();
+    const auto* const found = std::ranges::find(drawings, which, &Drawn::which);
+    return found != std::end(drawings) ? QIcon(new DrawnIcon(found->drawing)) : QIcon();
 }
 
 }  // namespace clipvane
