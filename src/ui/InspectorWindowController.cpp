@@ -113,13 +113,15 @@ QWidget* InspectorWindowController::makeToolbar() {
     using Window = InspectorWindowController;
     QObject::connect(fpsPopup, &QComboBox::activated, &mainWindow,
                      onceComposed(&Window::fpsChanged));
-    return new ToolbarView({.openTimeline = onceComposed(&Window::openTimeline),
-                            .removeSelectedEvent = onceComposed(&Window::removeSelectedEvent),
-                            .copySelectedInfo = onceComposed(&Window::copySelectedInfo),
-                            .exportCSV = onceComposed(&Window::exportCSV),
-                            .exportEDL = onceComposed(&Window::exportEDL),
-                            .showHelp = onceComposed(&Window::showHelp)},
-                           fpsPopup);
+    auto* toolbar = new ToolbarView;
+    toolbar->addButton("Open Timeline", onceComposed(&Window::openTimeline));
+    toolbar->addPopup(fpsPopup);
+    toolbar->addButton("Remove Event", onceComposed(&Window::removeSelectedEvent));
+    toolbar->addButton("Copy Info", onceComposed(&Window::copySelectedInfo));
+    toolbar->addButton("Export CSV", onceComposed(&Window::exportCSV));
+    toolbar->addButton("Export EDL", onceComposed(&Window::exportEDL));
+    toolbar->addButton("Help", onceComposed(&Window::showHelp));
+    return toolbar;
 }
 
 }  // namespace clipvane

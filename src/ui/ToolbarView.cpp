@@ -52,29 +52,25 @@ QWidget* fpsControlRow(FrameRatePopup* popup) {
 
 }  // namespace
 
-ToolbarView::ToolbarView(const ToolbarActions& actions, FrameRatePopup* fpsPopup, QWidget* parent)
-    : QWidget(parent) {
+ToolbarView::ToolbarView(QWidget* parent) : QWidget(parent) {
     setAccessibleName("Toolbar");
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(spacing);
-    const auto addButton = [&](const char* title, const std::function<void()>& action) {
-        auto* button = new ToolbarButton(title);
-        connect(button, &QPushButton::clicked, this, action);
-        layout->addWidget(button);
-    };
-
     auto* name = new TextLabel("Clipvane", systemFont(26, QFont::Bold), colours::white);
     name->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     layout->addWidget(name);
     layout->addStretch(1);
-    addButton("Open Timeline", actions.openTimeline);
-    layout->addWidget(fpsControlRow(fpsPopup));
-    addButton("Remove Event", actions.removeSelectedEvent);
-    addButton("Copy Info", actions.copySelectedInfo);
-    addButton("Export CSV", actions.exportCSV);
-    addButton("Export EDL", actions.exportEDL);
-    addButton("Help", actions.showHelp);
+}
+
+void ToolbarView::addButton(const QString& title, const std::function<void()>& action) {
+    auto* button = new ToolbarButton(title);
+    connect(button, &QPushButton::clicked, this, action);
+    layout()->addWidget(button);
+}
+
+void ToolbarView::addPopup(FrameRatePopup* popup) {
+    layout()->addWidget(fpsControlRow(popup));
 }
 
 }  // namespace clipvane
