@@ -199,23 +199,21 @@ TimelineEvent DocumentCommands::selectedEvent(std::size_t row) const {
 }
 
 void DocumentCommands::exportCSV() {
-    saveFile("timeline-events.csv",
-             [this](const auto& url) { return writeCSV(documentModel, url); });
+    saveFile("timeline-events.csv", writeCSV);
 }
 
 void DocumentCommands::exportEDL() {
-    saveFile("edited-timeline.edl",
-             [this](const auto& url) { return writeEDL(documentModel, url); });
+    saveFile("edited-timeline.edl", writeEDL);
 }
 
-void DocumentCommands::saveFile(const char* defaultName, const Writer& writer) {
+void DocumentCommands::saveFile(const char* defaultName, Writer writer) {
     const Alert* alert = &noMemory->toExport;
     try {
         storeComment();
         const auto url = runSavePanel(defaultName);
         if (!url) return;
         Result<void> written;
-        whileBusy([&] { written = writer(*url); });
+        whileBusy([&] { written = writer(documentModel, *url); });
         if (!written) {
             runAlert(exportFailedAlert(written.error()));
             return;

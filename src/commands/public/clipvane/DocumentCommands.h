@@ -57,14 +57,14 @@ class DocumentCommands {
     TimelineDocument documentModel;
 
   private:
-    using Writer = std::function<Result<void>(const std::filesystem::path& url)>;
+    using Writer = Result<void> (*)(const TimelineDocument&, const std::filesystem::path& url);
 
     /// What a command that ran out of memory ends with: shows `alert`. To be called while the
     /// exception is handled; any other is thrown on.
     void tellLackOfMemory(const Alert& alert);
 
     void storeComment();
-    void saveFile(const char* defaultName, const Writer& writer);
+    void saveFile(const char* defaultName, Writer writer);
     TimelineEvent selectedEvent(std::size_t row) const;
     LineEnd lineEndFor(const EventView& event);
 
