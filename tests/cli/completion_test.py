@@ -24,6 +24,12 @@ def options(command):
                           .split("Examples:")[0]))
 
 
+def standard_rates():
+    header = (TREE / "src/timecode/public/clipvane/FrameRate.h").read_text(encoding="utf-8")
+    [listed] = re.findall(r"standardFPSValues\{([^}]*)\}", header)
+    return [rate.removesuffix(".0") for rate in listed.replace(",", " ").split()]
+
+
 def completed(*words):
     script = (f"source '{BASH}'; COMP_WORDS=(\"$@\"); COMP_CWORD=$(($# - 1)); _clipvane_cli; "
               "printf '%s\\n' \"${COMPREPLY[@]}\"")
@@ -46,6 +52,7 @@ class Bash(unittest.TestCase):
         self.assertEqual(completed("check", "--format", ""), {"text", "jsonl"})
         self.assertEqual(completed("list", "--from", "j"), {"jsonl"})
         self.assertEqual(completed("stamp", "--from", ""), {"edl"})
+        self.assertEqual(completed("list", "--fps", ""), set(standard_rates()))
         self.assertEqual(completed("list", "--fps", "29"), {"29.97"})
         self.assertEqual(completed("list", "cut"), set())  # which leaves files to the shell
 
@@ -57,6 +64,10 @@ class Zsh(unittest.TestCase):
             self.assertIn(f"'{command}:", text)
             for option in options(command):
                 self.assertIn(option, text)
+
+    def test_it_offers_the_standard_rates(self):
+        self.assertGreaterEqual(len(standard_rates()), 10)
+        self.assertIn("(" + " ".join(standard_rates()) + ")", ZSH.read_text())
 
     @unittest.skipUnless(shutil.which("zsh"), "zsh is missing")
     def test_zsh_takes_it(self):
