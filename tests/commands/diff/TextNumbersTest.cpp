@@ -8,11 +8,14 @@
 #include <string>
 #include <vector>
 
+#include "support/LongTest.h"
+
 namespace clipvane::test {
 namespace {
 
 /// So many that some have a hash in common.
 TEST(TextNumbers, ManyTexts_HaveANumberEach) {
+    CLIPVANE_LONG_TEST();
     std::vector<std::string> texts;
     for (std::size_t i = 0; i < 300'000; ++i) texts.push_back("A" + std::to_string(i));
     diff::TextNumbers numbers;
