@@ -174,6 +174,16 @@ class Formats(ProgramTest):
             "newEvents": 13, "oldEvents": 12, "kept": 436, "keptInOld": 436, "new": 42, "again": 20,
             "gone": 41, "fewer": 30, "longer": 315})
 
+    def test_each_text_stands_in_its_field(self):
+        line = self.lines("A 100-200 @0 on V1", "A 90-205 @300 on V1")[0]
+        fields = ("Event", "Reel", "Name", "Track", "SourceIn", "SourceOut", "RecordIn", "RecordOut")
+        self.assertEqual([line["old" + field] for field in fields], [
+            "001", "A", "Clip 001", "V1", "00:00:04:00", "00:00:08:00", "00:00:00:00",
+            "00:00:04:00"])
+        self.assertEqual([line["new" + field] for field in fields], [
+            "001", "A", "Clip 001", "V1", "00:00:03:15", "00:00:08:05", "00:00:12:00",
+            "00:00:16:15"])
+
     def test_sums_of_a_track_count_what_either_list_has_there(self):
         sums = self.lines("A 0-50 @0, B 0-30 @50", "A 0-50 @0, B 0-30 @50 on A", "--track",
                           "A")[-1]["sums"]

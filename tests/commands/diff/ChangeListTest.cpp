@@ -81,6 +81,15 @@ TEST(ChangeList, WhatIsNotInOld_IsAGapAndAComment) {
         HasSubstr("00:00:02:00\n* NOT IN OLDCUT: 00:00:02:00 00:00:02:12 X Clip 002\n\n002"));
 }
 
+TEST(ChangeList, WhatAnEventHasMoreAtItsEnds_IsAComment) {
+    const auto made = make({cut("A", 10, 40, 0)}, {cut("A", 0, 50, 0)});
+    ASSERT_TRUE(made.text.has_value());
+    EXPECT_THAT(*made.text,
+                HasSubstr("\n* NOT IN OLDCUT: 00:00:00:00 00:00:00:10 A Clip 001\n\n001"));
+    EXPECT_THAT(*made.text, HasSubstr(" 00:00:01:15\n* NOT IN OLDCUT: 00:00:01:15 00:00:02:00 A "));
+    EXPECT_EQ(readBack(*made.text), (std::vector{ChangeStretch{10, 40, 0}}));
+}
+
 TEST(ChangeList, NamesThatWouldBeRead_AreBroken) {
     auto inserted = cut("X", 0, 12, 50);
     inserted.name =
