@@ -152,6 +152,12 @@ void ClipvaneStyle::drawComplexControl(ComplexControl control, const QStyleOptio
         drawComboBox(as<QStyleOptionComboBox>(option), *painter);
     } else if (control == CC_ScrollBar) {
         drawScrollBar(as<QStyleOptionSlider>(option), *painter, widget);
+    } else if (control == CC_ToolButton && option->state.testFlag(State_HasFocus) &&
+               option->state.testFlag(State_KeyboardFocusChange)) {
+        // A flat one is painted no ground otherwise, and with it no ring.
+        auto raised = as<QStyleOptionToolButton>(option);
+        raised.state &= ~State_AutoRaise;
+        QProxyStyle::drawComplexControl(control, &raised, painter, widget);
     } else {
         QProxyStyle::drawComplexControl(control, option, painter, widget);
     }

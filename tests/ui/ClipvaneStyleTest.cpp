@@ -126,6 +126,26 @@ TEST(ClipvaneStyle, ThumbFollowsTheValue) {
     EXPECT_EQ(thumb().height(), 36);
 }
 
+TEST(ClipvaneStyle, FlatToolButton_IsRingedForTheKeyboardAlone) {
+    const auto edge = [](QStyle::State state) {
+        QStyleOptionToolButton option;
+        option.rect = {0, 0, 32, 32};
+        option.subControls = QStyle::SC_ToolButton;
+        option.state =
+            QStyle::State_Enabled | QStyle::State_AutoRaise | QStyle::State_Raised | state;
+        QImage image(32, 32, QImage::Format_ARGB32);
+        image.fill(Qt::black);
+        QPainter painter(&image);
+        QApplication::style()->drawComplexControl(QStyle::CC_ToolButton, &option, &painter);
+        return image.pixelColor(16, 0);
+    };
+    EXPECT_EQ(edge(QStyle::State_None), QColor(Qt::black));
+    EXPECT_EQ(edge(QStyle::State_HasFocus), QColor(Qt::black)) << "a click shows no ring";
+    EXPECT_EQ(edge(QStyle::State_KeyboardFocusChange), QColor(Qt::black))
+        << "another has the focus";
+    EXPECT_EQ(edge(QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange), colours::focusRing);
+}
+
 class ButtonLook : public testing::Test {
   protected:
     QColor fill(QStyle::State state) {
