@@ -297,21 +297,19 @@ TEST(AtomicFile, ReplacedAgainAndAgain_NobodyEverReadsATornFile) {
     };
     std::thread first(write, 'b');
     std::thread second(write, 'c');
-    int reads = 0;
     int torn = 0;
-    while (writersLeft > 0) {
+    // On a busy machine the writers may be done before the first look.
+    do {
         const auto bytes = readFile(folder / "file");
         if (!bytes || bytes->view().size() != size ||
             bytes->view().find_first_not_of(bytes->view().front()) != std::string_view::npos) {
             ++torn;
         }
-        ++reads;
-    }
+    } while (writersLeft > 0);
     first.join();
     second.join();
     EXPECT_EQ(failures, 0);
     EXPECT_EQ(torn, 0);
-    EXPECT_GT(reads, 0);
     EXPECT_EQ(folder.names(), Names{"file"});
 }
 
