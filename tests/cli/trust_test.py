@@ -4,11 +4,14 @@
 """The batch program where disks, limits, files and terminals are against it."""
 
 import os
+import pathlib
 import pty
 import random
 import resource
+import shutil
 import signal
 import subprocess
+import tempfile
 import time
 import unittest
 
@@ -49,20 +52,29 @@ class Disks(ProgramTest):
                     FAILED, f"clipvane-cli: {place}: could not be written: No space left on device\n",
                     "old.edl\nold\n"))
 
+    def program_for_all(self):
+        """A copy of the program that others may start, wherever it was built."""
+        folder = tempfile.TemporaryDirectory(prefix="clipvane-cli-")
+        self.addCleanup(folder.cleanup)
+        os.chmod(folder.name, 0o755)
+        return shutil.copy(PROGRAM, pathlib.Path(folder.name, PROGRAM.name))
+
     @unittest.skipIf(os.geteuid() != 0, "only root can become somebody else")
     def test_no_permission(self):
+        program = self.program_for_all()
         os.chmod(self.folder, 0o755)
         os.chmod(self.put("secret.edl", NAMED), 0o600)
         self.put("a.edl", NAMED)
-        done = self.run_program("list", "secret.edl", "a.edl", user=NOBODY, group=NOBODY,
-                                extra_groups=[])
+        done = self.run_program("list", "secret.edl", "a.edl", program=program, user=NOBODY,
+                                group=NOBODY, extra_groups=[])
         self.assertEqual((done.status, done.said), (
             FAILED, "clipvane-cli: secret.edl: could not be read: Permission denied\n"))
         for command in (["list", "-o", "out", "a.edl"], ["convert", "-o", "out", "a.edl"],
                         ["stamp", "--fps", "24", "--restamp", "--in-place", "a.edl"],
                         ["convert", "-d", "folder", "a.edl"]):
             with self.subTest(command=command):
-                done = self.run_program(*command, user=NOBODY, group=NOBODY, extra_groups=[])
+                done = self.run_program(*command, program=program, user=NOBODY, group=NOBODY,
+                                        extra_groups=[])
                 self.assertEqual(done.status, FAILED)
                 self.assertRegex(done.said, r"could not be (written|made): Permission denied\n$")
                 self.assertEqual(sorted(os.listdir(self.folder)), ["a.edl", "secret.edl"])
