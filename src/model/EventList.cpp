@@ -113,10 +113,10 @@ std::uint32_t EventList::addRow(const FoundEvent& event) {
     const auto index = static_cast<std::uint32_t>(rows.size());
     EventRow& row = addEmptyRow();
     placeTexts(row, index, event);
-    for (std::size_t i = 0; i < event.timecodes.size(); ++i) {
+    RowTimecodes& four = timecodes[index];
+    for (std::size_t i = 0; i < four.size(); ++i) {
         const FoundTimecode& timecode = event.timecodes[i];
-        timecodes[index][i] =
-            timecode.oddText().empty() ? timecode.usual() : keepOdd(timecode.oddText());
+        four[i] = timecode.oddText().empty() ? timecode.usual() : keepOdd(timecode.oddText());
     }
     if (!event.comments.empty()) {
         comments.insert_or_assign(index, event.comments);
