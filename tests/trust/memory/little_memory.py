@@ -61,7 +61,7 @@ def least_to_start_with(program, folder):
     """The megabytes in which the program opens a file of one event."""
     with open(f"{folder}/small.edl", "w") as file:
         file.writelines(edl(1))
-    for megabytes in range(8, PLENTY + 1, 4):
+    for megabytes in range(8, PLENTY + 1):
         result = run(program, f"{folder}/small.edl", f"{folder}/small.csv", megabytes)
         if "Loaded 1 events" in result.stdout:
             return megabytes
