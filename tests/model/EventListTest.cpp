@@ -7,52 +7,16 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <functional>
 #include <set>
 #include <string>
 
 #include "model/FoundEvent.h"
 #include "model/FullEvent.h"
+#include "model/KindsOfEvents.h"
 #include "support/Records.h"
 
 namespace clipvane::test {
 namespace {
-
-TimelineEvent changed(const std::function<void(TimelineEvent&)>& change) {
-    TimelineEvent event = fullEvent();
-    change(event);
-    return event;
-}
-
-constexpr std::size_t wide = 70'000;  // more than a row's sixteen bits can tell
-
-/// Events that a row holds in each of its ways.
-std::vector<TimelineEvent> allKinds() {
-    using Event = TimelineEvent;
-    return {
-        fullEvent(),
-        fullEvent(),
-        changed([](Event& e) { e = {}; }),
-        changed([](Event& e) { e.format = "XML"; }),
-        changed([](Event& e) { e.format = ""; }),
-        changed([](Event& e) { e.format = std::string(wide, 'f'); }),
-        changed([](Event& e) { e.comments = ""; }),
-        changed([](Event& e) { e.highlighted = false; }),
-        changed([](Event& e) { e.sourceIn = ""; }),
-        changed([](Event& e) { e.sourceOut = "01:00:00;12"; }),
-        changed([](Event& e) { e.recordIn = "1:2:3:4"; }),
-        changed([](Event& e) { e.recordOut = "\u0661\u0662:00:00:00"; }),
-        changed([](Event& e) { e.sourceIn = "00:00:00:123456"; }),
-        changed([](Event& e) { e.sourceIn = std::string(wide, '1'); }),
-        changed([](Event& e) { e.eventNumber = std::string(65'535, '1'); }),
-        changed([](Event& e) { e.clipName = std::string(wide, 'n'); }),
-        changed([](Event& e) { e.reelID = std::string(wide, 'r'); }),
-        changed([](Event& e) { e.track = std::string(wide, 't'); }),
-        changed([](Event& e) { e.rawText = std::string(65'535, 'w'); }),
-        changed([](Event& e) { e.rawText = std::string(65'536, 'w'); }),
-        changed([](Event& e) { e.clipName = std::string("a\0b", 3); }),
-    };
-}
 
 TEST(EventList, WhatIsPutIn_ComesOut) {
     const auto events = allKinds();
@@ -326,77 +290,6 @@ TEST(EventList, Converted_AViewKeepsItsTexts) {
     EXPECT_EQ(view.clipName, fullEvent().clipName);
     EXPECT_EQ(view.comments, fullEvent().comments);
     EXPECT_EQ(view.rawText(), fullEvent().rawText);
-}
-
-// Conversion.
-
-std::size_t convertRecords(std::vector<TimelineEvent>& events, double from, double to) {
-    std::size_t count = 0;
-    for (TimelineEvent& event : events) {
-        for (std::string* timecode :
-             {&event.sourceIn, &event.sourceOut, &event.recordIn, &event.recordOut}) {
-            if (frames(*timecode, from)) ++count;
-            *timecode = convertTimecode(*timecode, from, to);
-        }
-    }
-    return count;
-}
-
-TEST(EventList, Converted_EveryTimecodeIsWhatItsTextBecomes) {
-    auto events = allKinds();
-    for (const char* timecode :
-         {"99:59:59:29", "98:99:99:99", "99:99:99:99", "00:00:00:01", "100:00:00:00", "00:00:00:-1",
-          "01:00:00;29", "x", ":::", "00:00:00:119"}) {
-        events.push_back(changed([&](TimelineEvent& event) {
-            event.sourceIn = timecode;
-            event.recordOut = timecode;
-        }));
-    }
-    EventList list(events);
-    constexpr double unusual = 1e12;
-    const std::vector rates{25.0, 24.0, 50.0, 1.0, 100.0, 101.0, 25.0, 1000.0, unusual, 30.0, 0.0};
-    for (std::size_t i = 0; i + 1 < rates.size(); ++i) {
-        const auto expected = convertRecords(events, rates[i], rates[i + 1]);
-        EXPECT_EQ(list.convertTimecodes({rates[i], rates[i + 1]}), expected);
-        ASSERT_EQ(records(list), events) << rates[i] << " to " << rates[i + 1];
-    }
-}
-
-/// Lists whose timecodes all have the usual form are converted another way.
-TEST(EventList, Converted_OfUsualTimecodesAlone_ShownOnesAreCounted) {
-    constexpr std::size_t shown = 3'000;
-    EventList list;
-    for (std::size_t i = 0; i < shown + 2; ++i) {
-        list.push_back(changed([&](TimelineEvent& event) {
-            event.sourceIn = timecode(static_cast<std::int64_t>(i), 25, false);
-        }));
-    }
-    list.erase(1'500);
-    list.erase(0);
-    auto events = records(list);
-    EXPECT_EQ(list.convertTimecodes({25, 24}), 4 * shown);
-    convertRecords(events, 25, 24);
-    EXPECT_EQ(records(list), events);
-}
-
-/// A count beyond 64 bits would stop the program.
-TEST(EventList, Converted_AnErasedEventsImpossibleTimecodeIsNotCounted) {
-    EventList list(std::vector{fullEvent(), changed([](TimelineEvent& event) {
-                                   event.recordOut = "9223372036854775807:0:0:0";
-                               })});
-    list.erase(1);
-    EXPECT_EQ(list.convertTimecodes({25, 24}), 4U);
-}
-
-TEST(EventList, Converted_ErasedEventsStayAndCountNot) {
-    EventList list(allKinds());
-    const auto size = list.size();
-    list.erase(0);
-    list.erase(8);
-    auto events = records(list);
-    EXPECT_EQ(events.size(), size - 2);
-    EXPECT_EQ(list.convertTimecodes({25, 30}), convertRecords(events, 25, 30));
-    EXPECT_EQ(records(list), events);
 }
 
 }  // namespace
